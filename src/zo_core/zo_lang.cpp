@@ -1,0 +1,69 @@
+// SPDX-License-Identifier: MIT
+// Translations through gettext. The message ids are the keys, so that a changed English text breaks no catalogue.
+#include <zo_core/zo_lang.hpp>
+
+#include <dlfcn.h>
+#include <glib.h>
+#include <libintl.h>
+
+#include <array>
+#include <filesystem>
+#include <mutex>
+#include <string_view>
+
+namespace {
+
+constexpr const char* domain = "zo";
+
+struct english_text {
+    std::string_view key;
+    std::string_view text;
+};
+
+constexpr std::array<english_text, 10> english{{
+    {"tooltip_back", "Go back"},
+    {"tooltip_close_app", "Exit the application"},
+    {"tooltip_close_window", "Close the window"},
+    {"tooltip_how_to", "How to use this window"},
+    {"tooltip_menu", "Menu"},
+    {"tooltip_minimize_window", "Minimize the window"},
+    {"tooltip_save_window_photo", "Save a picture of the window"},
+    {"tooltip_close_notification", "Close the notification"},
+    {"toolbar-locked", "The panel stays open. Click to let it slide away."},
+    {"toolbar-unlocked", "The panel slides away. Click to keep it open."},
+}};
+
+// Catalogues stand beside the library (prefix/share/locale), wherever the prefix was moved or staged; the configured
+// place is the fallback.
+std::string locale_directory() {
+    namespace fs = std::filesystem;
+    Dl_info self;
+    if (dladdr(reinterpret_cast<const void*>(&zo_lang_get_string), &self) && self.dli_fname) {
+        std::error_code error;
+        fs::path prefix = fs::canonical(self.dli_fname, error).parent_path();
+        for (int up = 0; up < 3 && !error && prefix.has_relative_path(); ++up) {
+            prefix = prefix.parent_path();
+            if (fs::path candidate = prefix / "share" / "locale"; fs::exists(candidate / "de" / "LC_MESSAGES" / "zo.mo", error))
+                return candidate;
+        }
+    }
+    return ZO_LOCALEDIR;
+}
+
+void bind_domain() {
+    bindtextdomain(domain, locale_directory().c_str());
+    bind_textdomain_codeset(domain, "UTF-8");
+}
+
+}  // namespace
+
+std::string zo_lang_get_string(std::string key) {
+    static std::once_flag bound;
+    std::call_once(bound, bind_domain);
+    if (key.empty()) return key;  // gettext answers "" with the catalogue's head
+    const char* translated = g_dgettext(domain, key.c_str());
+    if (translated != key.c_str()) return translated;
+    for (const english_text& entry : english)
+        if (entry.key == key) return std::string(entry.text);
+    return key;
+}

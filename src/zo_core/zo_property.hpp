@@ -1,0 +1,104 @@
+// SPDX-License-Identifier: MIT
+// The property list: named values of any type, and the typed access to them.
+//
+// Every function here works on the list alone. The caller holds the property lock of the object that owns the list
+// (see zo_object.hpp). Names are compared byte by byte. The overloads that take a `const char*` do the same as those
+// that take a string, and build none.
+#pragma once
+
+#include <zo_core/zo_export.hpp>
+
+#include <boost/any.hpp>
+#include <cstring>
+#include <functional>
+#include <map>
+#include <string>
+#include <typeinfo>
+#include <utility>
+
+// Ordered by name; looked up by any kind of string without making a copy of it.
+using property_list = std::map<std::string, boost::any, std::less<>>;
+
+// Copies the value stored under `name` into `out`. False when there is none; `out` is then empty.
+ZO_EXPORT bool zo_property_get(::property_list& list, std::string name, boost::any& out);
+ZO_EXPORT bool zo_property_get(::property_list& list, const char* name, boost::any& out);
+
+namespace zo {
+
+// Two libraries may hold different copies of one type's description, so types are compared by name.
+inline bool same_type(const std::type_info& a, const std::type_info& b) {
+    return a.name() == b.name() || std::strcmp(a.name(), b.name()) == 0;
+}
+
+// The value in `stored`, or null when it is of another type.
+template <typename T>
+T* value_in(boost::any& stored) {
+    return same_type(stored.type(), typeid(T)) ? boost::unsafe_any_cast<T>(&stored) : nullptr;
+}
+
+template <typename T, typename Name>
+bool property_init(::property_list& list, Name&& name, T& value) {
+    const auto place = list.lower_bound(name);
+    if (place != list.end() && place->first == name) return false;
+    list.emplace_hint(place, std::forward<Name>(name), boost::any(std::move(value)));
+    return true;
+}
+
+// A value of the same type changes places with `value`: nothing is allocated, and the caller's `value` takes the old
+// one with it.
+template <typename T, typename Name>
+bool property_set(::property_list& list, Name&& name, T& value) {
+    const auto place = list.lower_bound(name);
+    if (place == list.end() || place->first != name) {
+        list.emplace_hint(place, std::forward<Name>(name), boost::any(std::move(value)));
+    } else if (T* stored = value_in<T>(place->second)) {
+        std::swap(*stored, value);
+    } else {
+        boost::any old(std::move(value));
+        place->second.swap(old);
+    }
+    return true;
+}
+
+template <typename T, typename Name>
+bool property_get_extract(::property_list& list, const Name& name, T* value) {
+    const auto place = list.find(name);
+    if (place == list.end()) return false;
+    const T* stored = value_in<T>(place->second);
+    if (!stored) throw boost::bad_any_cast();
+    *value = *stored;
+    return true;
+}
+
+}  // namespace zo
+
+// Inserts `name` with `value`. False, and nothing changes, when the name exists.
+template <typename T>
+bool zo_property_init(::property_list& list, std::string name, T value) {
+    return zo::property_init<T>(list, std::move(name), value);
+}
+template <typename T>
+bool zo_property_init(::property_list& list, const char* name, T value) {
+    return zo::property_init<T>(list, name, value);
+}
+
+// Stores `value` as a `T` under `name`, whatever stood there before, or nothing. Always true.
+template <typename T>
+bool zo_property_set(::property_list& list, std::string name, T value) {
+    return zo::property_set<T>(list, std::move(name), value);
+}
+template <typename T>
+bool zo_property_set(::property_list& list, const char* name, T value) {
+    return zo::property_set<T>(list, name, value);
+}
+
+// Copies the value stored under `name` to `*value`. False, and `*value` stays, when there is none. A stored type other
+// than `T` is a programming error: boost::bad_any_cast leaves the call.
+template <typename T>
+bool zo_property_get_extract(::property_list& list, std::string name, T* value) {
+    return zo::property_get_extract<T>(list, name, value);
+}
+template <typename T>
+bool zo_property_get_extract(::property_list& list, const char* name, T* value) {
+    return zo::property_get_extract<T>(list, name, value);
+}

@@ -1,0 +1,84 @@
+// SPDX-License-Identifier: MIT
+// The library's own access to property lists: one scope that holds the lock, and checked operations inside it.
+#pragma once
+
+#include <zo_core/zo_diagnostics.hpp>
+#include <zo_core/zo_object.hpp>
+
+#include <string>
+#include <string_view>
+
+namespace zo {
+
+// How a stored type is spelled in a report. Every type that the library stores has a specialisation.
+template <typename T>
+struct type_text;
+template <>
+struct type_text<bool> {
+    static constexpr const char* value = "bool";
+};
+template <>
+struct type_text<int> {
+    static constexpr const char* value = "int";
+};
+template <>
+struct type_text<std::string> {
+    static constexpr const char* value = "std::string";
+};
+
+// How an access is spelled in a report: which list, which variable, and whether the name was a literal.
+struct spelling {
+    const char* value;
+    const char* list = "property_list";
+    bool literal_name = true;
+};
+
+// "operation<type>(list,"name",value)", as a report quotes it.
+ZO_EXPORT std::string access_text(const char* operation, const char* type, std::string_view name,
+                                  const spelling& how);
+
+// Holds the property lock of an object for one scope. A check that fails is reported at the line after the previous
+// one's, counted from the line of the lock. Values that an operation replaces are destroyed by the caller or after the
+// lock is given back, since their destructors may run code of the application.
+class property_guard {
+  public:
+    property_guard(_zo_object& object, const char* file, int line) : object_(object), file_(file), line_(line) {
+        object_.property_lock(file, line);
+    }
+    ~property_guard() { object_.property_unlock(); }
+    property_guard(const property_guard&) = delete;
+    property_guard& operator=(const property_guard&) = delete;
+
+    template <typename T>
+    void init(const char* name, T value, const char* value_text) {
+        const bool done = property_init<T>(object_.property_list, name, value);
+        check(done, "zo_property_init", type_text<T>::value, name, {value_text});
+    }
+
+    // `value` stays when the property is missing.
+    template <typename T, typename Name>
+    void read(const Name& name, T& value, const spelling& how) {
+        const bool done = property_get_extract<T>(object_.property_list, name, &value);
+        check(done, "zo_property_get_extract", type_text<T>::value, name, how);
+    }
+
+    // Afterwards `value` holds what it replaced; the caller lets it outlive the guard.
+    template <typename T, typename Name>
+    void write(const Name& name, T& value, const spelling& how) {
+        const bool done = property_set<T>(object_.property_list, name, value);
+        check(done, "zo_property_set", type_text<T>::value, name, how);
+    }
+
+  private:
+    // Builds no text unless there is something to report.
+    void check(bool done, const char* operation, const char* type, std::string_view name, const spelling& how) {
+        ++line_;
+        if (!done) zo_assertion_faild(false, access_text(operation, type, name, how), std::string(name), file_, line_);
+    }
+
+    _zo_object& object_;
+    const char* file_;
+    int line_;
+};
+
+}  // namespace zo

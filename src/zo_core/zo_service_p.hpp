@@ -1,0 +1,98 @@
+// SPDX-License-Identifier: MIT
+// The two halves of the service.
+#pragma once
+
+#include <atomic>
+#include <cstdint>
+#include <functional>
+#include <glib.h>
+#include <map>
+#include <mutex>
+#include <set>
+#include <utility>
+#include <vector>
+
+namespace zo {
+
+using task = std::function<void()>;
+
+// First in, first out, from any thread to the default main context.
+//
+// Two sources carry it. The eager one runs at default priority, before drawing. After a batch that left new tasks
+// behind it steps aside for a few turns of the loop, in which the patient one, at the priority of drawing, carries on:
+// so tasks that keep posting cannot stop the drawing, and drawing cannot stop the tasks.
+class task_queue {
+  public:
+    static task_queue& instance();
+
+    // False when the service has ended; `next` is then untouched.
+    bool post(task& next);
+
+    // Runs what is queued now, and what it posts, until nothing is left, then refuses every post.
+    void end();
+
+    bool done() const { return done_; }
+
+  private:
+    enum class phase { open, ending, closed };
+
+    task_queue();
+    void take_posted();
+    void run_one();
+    void run_batch();
+    void drain();
+    void note_waiting();
+    bool try_close();
+    void discard();
+    static task_queue& of(GSource* source);
+    static gboolean eager_prepare(GSource* source, gint* timeout);
+    static gboolean eager_check(GSource* source);
+    static gboolean patient_prepare(GSource* source, gint* timeout);
+    static gboolean patient_check(GSource* source);
+    static gboolean dispatch(GSource* source, GSourceFunc, gpointer);
+    void attach(GSourceFuncs& functions, int priority, const char* name);
+
+    std::mutex mutex_;
+    std::vector<task> posted_;    // guarded by mutex_
+    phase phase_ = phase::open;   // guarded by mutex_
+    std::atomic<bool> waiting_{false};
+    std::atomic<bool> done_{false};
+
+    // Touched only by the thread that iterates the main context.
+    std::vector<task> ready_;
+    std::size_t next_ready_ = 0;
+    std::uint64_t taken_ = 0;
+    std::uint64_t begun_ = 0;
+    int stand_aside_ = 0;  // turns of the loop that the eager source lets pass
+};
+
+// Timeouts: one source that wakes for the earliest and hands what is due to the task queue.
+class timer_list {
+  public:
+    static timer_list& instance();
+
+    unsigned long add(task& next, unsigned long milliseconds);
+    void clear(unsigned long id);
+    void drop_all();
+
+  private:
+    struct timer {
+        gint64 deadline;
+        task run;
+    };
+
+    timer_list();
+    void run(unsigned long id);
+    void post_due();
+    void arm();
+    static gboolean dispatch(GSource* source, GSourceFunc, gpointer);
+
+    std::mutex mutex_;                                       // guards all of the following
+    std::map<unsigned long, timer> timers_;                  // due ones too, until they run
+    std::set<std::pair<gint64, unsigned long>> schedule_;    // those not yet due
+    unsigned long last_id_ = 0;
+    bool ended_ = false;
+    GSource* source_ = nullptr;
+};
+
+}  // namespace zo

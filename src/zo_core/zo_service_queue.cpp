@@ -1,0 +1,181 @@
+// SPDX-License-Identifier: MIT
+#include <zo_core/zo_service_p.hpp>
+
+#include <zo_core/zo_service.hpp>
+
+#include <cstdlib>
+
+namespace {
+
+// GTK draws at this priority. The core does not know GTK, so the number is spelled here.
+constexpr int drawing_priority = G_PRIORITY_HIGH_IDLE + 20;
+
+// g_main_context_pending and the iteration after it are two turns, so one would not be enough.
+constexpr int turns_aside = 3;
+
+// A task that posts itself for ever must not keep the process from leaving.
+constexpr int last_generations = 1000;
+
+// Above this capacity an empty vector gives its memory back: a burst of posts must not stay for the process's life.
+constexpr std::size_t kept_capacity = 1024;
+
+struct queue_source {
+    GSource base;
+    zo::task_queue* queue;
+};
+
+}  // namespace
+
+namespace zo {
+
+task_queue& task_queue::instance() {
+    static auto& queue = *new task_queue;  // never destroyed: objects in static storage may still post
+    return queue;
+}
+
+task_queue::task_queue() {
+    static GSourceFuncs eager{eager_prepare, eager_check, dispatch, nullptr, nullptr, nullptr};
+    static GSourceFuncs patient{patient_prepare, patient_check, dispatch, nullptr, nullptr, nullptr};
+    attach(eager, G_PRIORITY_DEFAULT, "zo tasks");
+    attach(patient, drawing_priority, "zo tasks beside drawing");
+    std::atexit(zo_system_service_end);
+}
+
+void task_queue::attach(GSourceFuncs& functions, int priority, const char* name) {
+    GSource* source = g_source_new(&functions, sizeof(queue_source));
+    reinterpret_cast<queue_source*>(source)->queue = this;
+    g_source_set_static_name(source, name);
+    g_source_set_priority(source, priority);
+    g_source_set_can_recurse(source, TRUE);
+    g_source_attach(source, nullptr);
+    g_source_unref(source);
+}
+
+bool task_queue::post(task& next) {
+    bool was_empty = false;
+    {
+        std::lock_guard lock(mutex_);
+        if (phase_ == phase::closed) return false;
+        was_empty = posted_.empty();
+        posted_.push_back(std::move(next));
+        waiting_ = true;
+    }
+    // The loop's own thread looks again before it sleeps.
+    if (was_empty && !g_main_context_is_owner(nullptr)) g_main_context_wakeup(nullptr);
+    return true;
+}
+
+void task_queue::take_posted() {
+    std::lock_guard lock(mutex_);
+    taken_ += posted_.size();
+    if (ready_.empty()) {
+        ready_.swap(posted_);
+        return;
+    }
+    for (task& next : posted_) ready_.push_back(std::move(next));
+    posted_.clear();
+}
+
+// Everything here is in order again before the task runs: it may run a nested loop, or throw.
+void task_queue::run_one() {
+    const task next = std::move(ready_[next_ready_]);
+    ++next_ready_;
+    ++begun_;
+    if (next_ready_ == ready_.size()) {
+        next_ready_ = 0;
+        ready_.clear();
+        if (ready_.capacity() > kept_capacity) std::vector<task>().swap(ready_);
+    }
+    next();
+}
+
+void task_queue::note_waiting() {
+    std::lock_guard lock(mutex_);
+    waiting_ = !posted_.empty() || !ready_.empty();
+}
+
+void task_queue::run_batch() {
+    struct leave {
+        task_queue& queue;
+        ~leave() {
+            queue.note_waiting();
+            queue.stand_aside_ = queue.waiting_ ? turns_aside : 0;
+        }
+    } const at_the_end{*this};
+    if (done_) return drain();
+    take_posted();
+    const std::uint64_t last = taken_;
+    while (begun_ < last && !ready_.empty()) run_one();
+}
+
+bool task_queue::try_close() {
+    std::lock_guard lock(mutex_);
+    if (!posted_.empty()) return false;
+    phase_ = phase::closed;
+    return true;
+}
+
+void task_queue::discard() {
+    std::vector<task> rest;
+    std::lock_guard lock(mutex_);
+    phase_ = phase::closed;
+    rest.swap(posted_);
+}
+
+void task_queue::drain() {
+    for (int generation = 0; generation < last_generations; ++generation) {
+        take_posted();
+        const std::uint64_t last = taken_;
+        while (begun_ < last && !ready_.empty()) run_one();
+        if (try_close()) return;
+    }
+    discard();
+}
+
+void task_queue::end() {
+    {
+        std::lock_guard lock(mutex_);
+        if (phase_ != phase::open) return;
+        phase_ = phase::ending;
+        done_ = true;
+        waiting_ = true;
+    }
+    timer_list::instance().drop_all();
+    if (g_main_context_acquire(nullptr)) {
+        drain();
+        note_waiting();
+        g_main_context_release(nullptr);
+    } else {
+        g_main_context_wakeup(nullptr);
+    }
+}
+
+task_queue& task_queue::of(GSource* source) { return *reinterpret_cast<queue_source*>(source)->queue; }
+
+gboolean task_queue::eager_prepare(GSource* source, gint* timeout) {
+    *timeout = -1;
+    task_queue& queue = of(source);
+    if (!queue.waiting_) return FALSE;
+    if (queue.stand_aside_ == 0) return TRUE;
+    --queue.stand_aside_;
+    return FALSE;
+}
+
+gboolean task_queue::eager_check(GSource* source) {
+    const task_queue& queue = of(source);
+    return queue.waiting_ && queue.stand_aside_ == 0;
+}
+
+gboolean task_queue::patient_prepare(GSource* source, gint* timeout) {
+    *timeout = -1;
+    return of(source).waiting_;
+}
+
+gboolean task_queue::patient_check(GSource* source) { return of(source).waiting_; }
+
+gboolean task_queue::dispatch(GSource* source, GSourceFunc, gpointer) {
+    of(source).run_batch();
+    return G_SOURCE_CONTINUE;
+}
+
+}  // namespace zo

@@ -1,0 +1,7 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <zo_core/zo_export.hpp>
+
+// A number that this process has not been given before; never 0. Any thread.
+ZO_EXPORT unsigned long zo_get_unique_id();

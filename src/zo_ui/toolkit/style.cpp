@@ -1,0 +1,22 @@
+// SPDX-License-Identifier: MIT
+#include <zo_ui/toolkit/style_p.hpp>
+
+#include <memory>
+
+void zo::add_class(GtkWidget* widget, const char* name) {
+    if (*name) gtk_style_context_add_class(gtk_widget_get_style_context(widget), name);
+}
+
+void zo::remove_class(GtkWidget* widget, const char* name) {
+    if (*name) gtk_style_context_remove_class(gtk_widget_get_style_context(widget), name);
+}
+
+bool zo::has_class(GtkWidget* widget, const char* name) {
+    return gtk_style_context_has_class(gtk_widget_get_style_context(widget), name);
+}
+
+void zo::set_tooltip(GtkWidget* widget, const std::string& markup) {
+    gtk_widget_set_tooltip_markup(widget, markup.c_str());
+    const std::unique_ptr<char, decltype(&g_free)> text(gtk_widget_get_tooltip_text(widget), g_free);
+    atk_object_set_name(gtk_widget_get_accessible(widget), text ? text.get() : "");
+}

@@ -1,0 +1,18 @@
+// SPDX-License-Identifier: MIT
+// Style classes, names and accessible names of widgets.
+#pragma once
+
+#include <gtk/gtk.h>
+#include <string>
+
+namespace zo {
+
+// An empty name is no class; one that is there already is not added twice.
+void add_class(GtkWidget* widget, const char* name);
+void remove_class(GtkWidget* widget, const char* name);
+bool has_class(GtkWidget* widget, const char* name);
+
+// Sets the tooltip and, for a button that shows only an icon, the same text as the name that assistive programs read.
+void set_tooltip(GtkWidget* widget, const std::string& markup);
+
+}  // namespace zo

@@ -1,0 +1,1 @@
+zo_test(core_service_test FILES core/service_test.cpp)
