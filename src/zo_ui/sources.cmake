@@ -8,6 +8,7 @@ zo_library(zo_ui
     zo_ui/platform/linux/window_facts.cpp
     zo_ui/platform/linux/x_errors.cpp
     zo_ui/toolkit/connect.cpp
+    zo_ui/toolkit/layout_idle.cpp
     zo_ui/toolkit/process_state.cpp
     zo_ui/toolkit/redraw_ticker.cpp
     zo_ui/toolkit/screen.cpp
@@ -15,6 +16,28 @@ zo_library(zo_ui
     zo_ui/toolkit/theme.cpp
     zo_ui/toolkit/tools.cpp
     zo_ui/toolkit/widgets.cpp
+    zo_ui/zo_window/window.cpp
+    zo_ui/zo_window/window_active.cpp
+    zo_ui/zo_window/window_callbacks.cpp
+    zo_ui/zo_window/window_closing.cpp
+    zo_ui/zo_window/window_content.cpp
+    zo_ui/zo_window/window_drag.cpp
+    zo_ui/zo_window/window_event.cpp
+    zo_ui/zo_window/window_flags.cpp
+    zo_ui/zo_window/window_manager_link.cpp
+    zo_ui/zo_window/window_posting.cpp
+    zo_ui/zo_window/window_properties.cpp
+    zo_ui/zo_window/window_settings.cpp
+    zo_ui/zo_window/window_showing.cpp
+    zo_ui/zo_window/window_state.cpp
+    zo_ui/zo_window/window_texts.cpp
+    zo_ui/zo_window/window_title_actions.cpp
+    zo_ui/zo_window/window_title_bar.cpp
+    zo_ui/zo_window/window_tool_menu.cpp
+    zo_ui/zo_window/window_tool_menu_keys.cpp
+    zo_ui/zo_window/window_tree.cpp
+    zo_ui/zo_window/window_tree_handlers.cpp
+    zo_ui/zo_window_manager/manager_host.cpp
   HEADERS
     zo_ui/platform/linux.hpp
     zo_ui/zo_handles.hpp

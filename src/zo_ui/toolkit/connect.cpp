@@ -14,7 +14,8 @@ namespace {
 template <auto List>
 void on_destroy_drop(GtkWidget* widget, gpointer) {
     const auto entry = (toolkit().*List).take(widget);
-    if (entry) g_signal_handlers_disconnect_by_data(widget, entry.get());  // other "destroy" handlers may still emit
+    if (entry)
+        g_signal_handlers_disconnect_by_data(widget, entry.get());  // other "destroy" handlers may still emit
 }
 
 // The order of the two handlers of "destroy" and of the signal is that of connecting.
@@ -43,7 +44,8 @@ bool zo_ui_connect_toogle_click_signal(GtkWidget* button, std::function<void(Gtk
     return connect<&toolkit_state::toogle_change_list>(button, "clicked", std::move(callback));
 }
 
-bool zo_ui_connect_combobox_selection_change_signal(GtkWidget* combo, std::function<void(GtkComboBox*)> callback) {
+bool zo_ui_connect_combobox_selection_change_signal(GtkWidget* combo,
+                                                    std::function<void(GtkComboBox*)> callback) {
     return connect<&toolkit_state::combobox_change_list>(combo, "changed", std::move(callback));
 }
 
@@ -51,11 +53,13 @@ bool zo_ui_connect_switch_button_change_signal(GtkWidget* button, std::function<
     return connect<&toolkit_state::switch_change_list>(button, "notify::active", std::move(callback));
 }
 
-bool zo_ui_connect_editable_text_change_signal(GtkWidget* editable, std::function<void(GtkEditable*)> callback) {
+bool zo_ui_connect_editable_text_change_signal(GtkWidget* editable,
+                                               std::function<void(GtkEditable*)> callback) {
     return connect<&toolkit_state::editable_text_change>(editable, "changed", std::move(callback));
 }
 
-bool zo_ui_connect_scale_value_change_signal(GtkWidget* scale, std::function<void(GtkScaleButton*, double)> callback) {
+bool zo_ui_connect_scale_value_change_signal(GtkWidget* scale,
+                                             std::function<void(GtkScaleButton*, double)> callback) {
     return connect<&toolkit_state::scale_change_list>(scale, "value-changed", std::move(callback));
 }
 
@@ -63,7 +67,8 @@ bool zo_ui_connect_menuitem_click_signal(GtkWidget* item, std::function<void(Gtk
     return connect<&toolkit_state::menuitem_click_list>(item, "activate", std::move(callback));
 }
 
-bool zo_ui_connect_label_link_activate(GtkWidget* label, std::function<bool(GtkLabel*, std::string&)> callback) {
+bool zo_ui_connect_label_link_activate(GtkWidget* label,
+                                       std::function<bool(GtkLabel*, std::string&)> callback) {
     return connect<&toolkit_state::label_link_list>(label, "activate-link", std::move(callback));
 }
 
@@ -71,7 +76,8 @@ bool zo_ui_connect_on_draw_signal(GtkWidget* widget, std::function<bool(GtkWidge
     return connect<&toolkit_state::draw_list>(widget, "draw", std::move(callback));
 }
 
-bool zo_ui_connect_event_click_signal(GtkWidget* widget, std::function<int(GtkWidget*, GdkEventButton*)> callback) {
+bool zo_ui_connect_event_click_signal(GtkWidget* widget,
+                                      std::function<int(GtkWidget*, GdkEventButton*)> callback) {
     return connect<&toolkit_state::button_press_list>(widget, "button-press-event", std::move(callback));
 }
 

@@ -2,8 +2,8 @@
 // A list of callables by widget, each living until its widget's "destroy".
 #pragma once
 
-#include <functional>
 #include <gtk/gtk.h>
+#include <functional>
 #include <map>
 #include <memory>
 
@@ -21,7 +21,8 @@ class listener_list {
   public:
     using entry = std::shared_ptr<listener<Signature>>;
 
-    // The new entry, or null when the widget has one already. `on_destroy` is connected to the widget's "destroy".
+    // The new entry, or null when the widget has one already. `on_destroy` is connected to the widget's
+    // "destroy".
     entry add(GtkWidget* widget, std::function<Signature> callable, GCallback on_destroy) {
         const auto [place, added] = entries_.try_emplace(widget);
         if (!added) return nullptr;

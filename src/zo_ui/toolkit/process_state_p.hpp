@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
-// Everything of the toolkit that exists once in the process, in one place: made on first use, emptied when the process
-// exits, never destroyed, since widgets may still be taken down after that.
+// Everything of the toolkit that exists once in the process, in one place: made on first use, emptied when
+// the process exits, never destroyed, since widgets may still be taken down after that.
 #pragma once
 
 #include <zo_ui/toolkit/listener_list_p.hpp>
 
-#include <functional>
 #include <gtk/gtk.h>
+#include <functional>
 #include <string>
 #include <vector>
 

@@ -6,7 +6,8 @@
 using zo::toolkit;
 
 void zo_ui_init() {
-    gdk_event_handler_set([](GdkEvent* event, gpointer) { gtk_main_do_event(event); }, nullptr, [](gpointer) {});
+    gdk_event_handler_set([](GdkEvent* event, gpointer) { gtk_main_do_event(event); }, nullptr,
+                          [](gpointer) {});
     GdkDisplay* display = gdk_display_get_default();
     GdkMonitor* monitor = display ? gdk_display_get_monitor(display, 0) : nullptr;
     if (!monitor) return;

@@ -12,7 +12,8 @@ void add_class(GtkWidget* widget, const char* name);
 void remove_class(GtkWidget* widget, const char* name);
 bool has_class(GtkWidget* widget, const char* name);
 
-// Sets the tooltip and, for a button that shows only an icon, the same text as the name that assistive programs read.
+// Sets the tooltip and, for a button that shows only an icon, the same text as the name that assistive
+// programs read.
 void set_tooltip(GtkWidget* widget, const std::string& markup);
 
 }  // namespace zo

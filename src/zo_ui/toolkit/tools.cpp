@@ -31,7 +31,8 @@ void zo_ui_gtk_fix_visual_rgba_on_screen_changed(GtkWidget* widget, GdkScreen*, 
 
 bool zo_ui_on_link_activated_default_open(GtkLabel*, char*, void*) { return false; }
 
-void zo_ui_get_clipboard_text(GtkClipboard* clipboard, std::function<void(GtkClipboard*, const char*)> callback) {
+void zo_ui_get_clipboard_text(GtkClipboard* clipboard,
+                              std::function<void(GtkClipboard*, const char*)> callback) {
     toolkit().clipboard_request.swap(callback);
     gtk_clipboard_request_text(clipboard, on_clipboard_text, nullptr);
 }

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// From GTK's signals to callables. The user data is a pointer to a listener; null gives the signal's neutral value. An
-// empty callable is a programming error: std::bad_function_call leaves the handler.
+// From GTK's signals to callables. The user data is a pointer to a listener; null gives the signal's neutral
+// value. An empty callable is a programming error: std::bad_function_call leaves the handler.
 #pragma once
 
 #include <zo_ui/toolkit/listener_list_p.hpp>

@@ -23,7 +23,9 @@ GtkWidget* wrapper(GtkWidget* child, GtkAlign vertical, GtkAlign horizontal, pac
     GtkWidget* box = gtk_box_new(GTK_ORIENTATION_HORIZONTAL, 0);
     gtk_widget_set_valign(box, vertical);
     gtk_widget_set_halign(box, horizontal);
-    if (child) (side == packing::start ? gtk_box_pack_start : gtk_box_pack_end)(GTK_BOX(box), child, FALSE, FALSE, 0);
+    if (child)
+        (side == packing::start ? gtk_box_pack_start : gtk_box_pack_end)(GTK_BOX(box), child, FALSE, FALSE,
+                                                                         0);
     if (show) gtk_widget_show(box);
     return box;
 }

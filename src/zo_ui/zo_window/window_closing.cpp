@@ -1,0 +1,68 @@
+// SPDX-License-Identifier: MIT
+// Closing, destroying, and asking before.
+#include <zo_ui/zo_window/window_callbacks_p.hpp>
+
+#include <zo_core/zo_service.hpp>
+
+namespace source = zo::window_source;
+
+void _zo_window::_close() {
+    if (!is_opened() || is_destroyed()) return;
+    const zo_window_ptr self = handle();
+    std::function<void(zo_window_ptr)> fn;
+    {
+        zo::property_guard guard(*this, source::file, source::close_task);
+        raise_instance_id(guard);
+        guard.read("window-close", fn, {"&fn"});
+    }
+    set_opened(false);
+    set_visible(false);
+    take_tree_down();
+    if (fn) fn(self);
+    if (!is_opened()) tell_manager(&zo::window_host::on_window_close);
+}
+
+// Everything is forgotten before anything is destroyed: the application's "destroy" handlers find a closed
+// window, and may open it again. When the service is done the toolkit is going away with the widgets.
+void _zo_window::take_tree_down() {
+    const zo::window_widgets tree = std::exchange(widgets_, {});
+    title_part_ = ads_part_ = content_part_ = {};
+    fitting_.cancel();
+    kept_above_ = was_hidden_ = unmaximizing_ = centring_ = false;
+    if (zo_system_service_done()) return;
+    for (GtkWidget* widget : {tree.window, tree.tool_menu})
+        if (widget && !gtk_widget_in_destruction(widget)) gtk_widget_destroy(widget);
+}
+
+void _zo_window::_destroy() {
+    if (is_destroyed() || destroying_) return;
+    destroying_ = true;
+    const zo_window_ptr self = handle();
+    std::function<void(zo_window_ptr)> fn;
+    std::vector<boost::any> cleared;
+    {
+        zo::property_guard guard(*this, source::file, source::destroy_task);
+        raise_instance_id(guard);
+        guard.read("window-destroy", fn, {"&fn"});
+        cleared = zo::clear_window_callbacks(guard);
+    }
+    cleared.clear();
+    _close();
+    std::function<void(zo_window_ptr)> on_close;
+    {
+        zo::property_guard guard(*this, source::file, source::destroy_task_end);
+        guard.write("window-close", on_close, {"nullptr"});
+    }
+    set_destroyed(true);
+    if (fn) fn(self);
+    tell_manager(&zo::window_host::on_window_destroy);
+    manager_.store({});
+    if (is_reffed()) zo_object_unref(self);
+}
+
+void _zo_window::request_close() {
+    GtkWidget* const window = widgets_.window;
+    const auto fn = callback<bool(zo_window_ptr)>("window-close-request", source::title_action);
+    const bool vetoed = fn && fn(handle());
+    if (!vetoed && still_open(window)) _close();
+}
