@@ -15,14 +15,16 @@ int met = 0;
 std::string field(const GLogField* fields, gsize count, const char* key) {
     for (gsize i = 0; i < count; ++i)
         if (std::string(fields[i].key) == key && fields[i].value)
-            return fields[i].length < 0 ? std::string(static_cast<const char*>(fields[i].value))
-                                        : std::string(static_cast<const char*>(fields[i].value), fields[i].length);
+            return fields[i].length < 0
+                       ? std::string(static_cast<const char*>(fields[i].value))
+                       : std::string(static_cast<const char*>(fields[i].value), fields[i].length);
     return {};
 }
 
 GLogWriterOutput on_message(GLogLevelFlags level, const GLogField* fields, gsize count, gpointer) {
     const std::string text = field(fields, count, "GLIB_DOMAIN") + ": " + field(fields, count, "MESSAGE");
-    if (!(level & (G_LOG_LEVEL_ERROR | G_LOG_LEVEL_CRITICAL | G_LOG_LEVEL_WARNING))) return G_LOG_WRITER_HANDLED;
+    if (!(level & (G_LOG_LEVEL_ERROR | G_LOG_LEVEL_CRITICAL | G_LOG_LEVEL_WARNING)))
+        return G_LOG_WRITER_HANDLED;
     {
         std::lock_guard lock(mutex);
         if (!expected.empty() && text.find(expected) != std::string::npos) {

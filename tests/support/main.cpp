@@ -1,16 +1,17 @@
 // SPDX-License-Identifier: MIT
-// The main of every test program. A test fails that provokes a message of GLib's log, or leaves an object behind.
+// The main of every test program. A test fails that provokes a message of GLib's log, or leaves an object
+// behind.
+#include "support/main.hpp"
 #include "support/log_check.hpp"
 #include "support/loop.hpp"
-#include "support/main.hpp"
 
 #include <gtest/gtest.h>
 #include <zo_core/zo_core.hpp>
 
 namespace {
 
-constexpr const char* tags[] = {"[zo_window]", "[zo_window_event]", "[zo_window_manager]", "[zo_notification]",
-                                "[zo_appindicator]"};
+constexpr const char* tags[] = {"[zo_window]", "[zo_window_event]", "[zo_window_manager]",
+                                "[zo_notification]", "[zo_appindicator]"};
 
 class no_object_stays : public testing::EmptyTestEventListener {
     void OnTestEnd(const testing::TestInfo&) override {

@@ -15,5 +15,6 @@ std::vector<std::string> test::captured_output::lines() const {
 }
 
 std::string test::null_handle_line(const std::string& function) {
-    return "\x1b[1;35mZO-SYSTEM**WARNING**\x1b[0;0m: null object supplied: \x1b[0;35m" + function + "\x1b[0;0m\n";
+    return "\x1b[1;35mZO-SYSTEM**WARNING**\x1b[0;0m: null object supplied: \x1b[0;35m" + function +
+           "\x1b[0;0m\n";
 }

@@ -1,0 +1,25 @@
+# Tests with windows on a real screen.
+pkg_check_modules(GDK_X11 REQUIRED IMPORTED_TARGET gdk-x11-3.0)
+add_library(ui_support STATIC support/desktop.cpp support/ui.cpp)
+target_link_libraries(ui_support PUBLIC test_support PkgConfig::GTK3 PkgConfig::GDK_X11 PkgConfig::X11)
+target_include_directories(ui_support PRIVATE ${PROJECT_SOURCE_DIR}/src)
+
+# zo_ui_test(name...): ui/NAME.cpp against the shared libraries, under openbox and without a window manager.
+function(zo_ui_test)
+  foreach(name ${ARGN})
+    get_filename_component(program ${name} NAME)
+    zo_test(${program} FILES ui/${name}.cpp LIBRARIES ui_support zo_ui SESSIONS openbox none)
+  endforeach()
+endfunction()
+
+# zo_ui_inner_test(name...): likewise, but linked with the library's objects, for tests that reach private parts.
+function(zo_ui_inner_test)
+  foreach(name ${ARGN})
+    get_filename_component(program ${name} NAME)
+    zo_test(${program} FILES ui/${name}.cpp LIBRARIES ui_support zo_ui_objects SESSIONS openbox none)
+    target_link_libraries(${program} PRIVATE PkgConfig::X11 PkgConfig::XMU)
+  endforeach()
+endfunction()
+
+include(ui/window/tests.cmake)
+include(ui/toolkit/tests.cmake)
