@@ -1,0 +1,106 @@
+// SPDX-License-Identifier: MIT
+#include "platform/x_client.hpp"
+
+#include <atomic>
+#include <cstdlib>
+
+namespace {
+
+std::atomic<int> errors{0};
+
+int on_error(Display*, XErrorEvent*) {
+    ++errors;
+    return 0;
+}
+
+std::function<void(int)> after_request;
+int requests = 0;
+
+int on_request(Display*) {
+    ++requests;
+    if (after_request) after_request(requests);
+    return 0;
+}
+
+}  // namespace
+
+test::x_client::~x_client() {
+    if (display_) XCloseDisplay(display_);
+}
+
+Window test::x_client::make(Window parent) {
+    const Window window = XCreateSimpleWindow(display_, parent ? parent : root(), 10, 10, 80, 60, 0, 0, 0);
+    XSync(display_, False);
+    return window;
+}
+
+Window test::x_client::make_viewable(Window parent) {
+    const Window window = make(parent);
+    XMapWindow(display_, window);
+    XSync(display_, False);
+    return window;
+}
+
+Window test::x_client::make_client(Window parent) {
+    const Window window = make_viewable(parent);
+    set_longs(window, "WM_STATE", "WM_STATE", {1, 0});
+    return window;
+}
+
+Window test::x_client::make_dead() {
+    const Window window = make();
+    destroy(window);
+    return window;
+}
+
+void test::x_client::destroy(Window window) {
+    XDestroyWindow(display_, window);
+    XSync(display_, False);
+}
+
+void test::x_client::focus(Window window) {
+    XSetInputFocus(display_, window, RevertToNone, CurrentTime);
+    XSync(display_, False);
+}
+
+void test::x_client::set_text(Window window, const char* property, const char* type,
+                              const std::string& bytes) {
+    XChangeProperty(display_, window, XInternAtom(display_, property, False),
+                    XInternAtom(display_, type, False), 8, PropModeReplace,
+                    reinterpret_cast<const unsigned char*>(bytes.data()), static_cast<int>(bytes.size()));
+    XSync(display_, False);
+}
+
+void test::x_client::set_longs(Window window, const char* property, const char* type,
+                               const std::vector<long>& values) {
+    XChangeProperty(display_, window, XInternAtom(display_, property, False),
+                    XInternAtom(display_, type, False), 32, PropModeReplace,
+                    reinterpret_cast<const unsigned char*>(values.data()), static_cast<int>(values.size()));
+    XSync(display_, False);
+}
+
+bool test::x_client::is_viewable(Window window) {
+    XWindowAttributes attributes{};
+    return XGetWindowAttributes(display_, window, &attributes) && attributes.map_state == IsViewable;
+}
+
+test::counted_errors::counted_errors() : before_(XSetErrorHandler(on_error)) { errors = 0; }
+
+test::counted_errors::~counted_errors() { XSetErrorHandler(before_); }
+
+int test::counted_errors::count() const { return errors; }
+
+void test::watch_requests(Display* display, std::function<void(int)> action) {
+    requests = 0;
+    after_request = std::move(action);
+    XSetAfterFunction(display, on_request);
+}
+
+void test::stop_watching_requests(Display* display) { XSetAfterFunction(display, nullptr); }
+
+int test::watched_requests() { return requests; }
+
+std::string test::window_manager() {
+    const char* name = std::getenv("ZO_SESSION_WM");
+    return name ? name : "none";
+}

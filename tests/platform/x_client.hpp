@@ -1,0 +1,66 @@
+// SPDX-License-Identifier: MIT
+// An X connection of the test's own, and what tests do with it. Include it after GoogleTest: Xlib defines
+// macros.
+#pragma once
+
+#include <X11/Xatom.h>
+#include <X11/Xlib.h>
+
+#include <functional>
+#include <string>
+#include <vector>
+
+namespace test {
+
+class x_client {
+  public:
+    explicit x_client(const char* name = nullptr) : display_(XOpenDisplay(name)) {}
+    ~x_client();
+    x_client(const x_client&) = delete;
+    x_client& operator=(const x_client&) = delete;
+
+    operator Display*() const { return display_; }
+    Window root() const { return DefaultRootWindow(display_); }
+
+    // Each returns when the server has done it.
+    Window make(Window parent = 0);
+    Window make_viewable(Window parent = 0);
+    Window make_client(Window parent);  // viewable, with the window manager's state
+    Window make_dead();
+    void destroy(Window window);
+    void focus(Window window);
+    void set_text(Window window, const char* property, const char* type, const std::string& bytes);
+    void set_longs(Window window, const char* property, const char* type, const std::vector<long>& values);
+
+    bool is_viewable(Window window);
+
+  private:
+    Display* display_;
+};
+
+// While this lives, errors that reach the process's error handler are counted.
+class counted_errors {
+  public:
+    counted_errors();
+    ~counted_errors();
+    counted_errors(const counted_errors&) = delete;
+    counted_errors& operator=(const counted_errors&) = delete;
+
+    int count() const;
+
+  private:
+    XErrorHandler before_;
+};
+
+// From now on `action` runs after each request that is made on the connection, with the number of requests
+// since then. One connection at a time; until it is closed or stop_watching_requests.
+void watch_requests(Display* display, std::function<void(int)> action);
+void stop_watching_requests(Display* display);
+
+// The number of requests made on the watched connection.
+int watched_requests();
+
+// What a test's session says its window manager is; "none" without one.
+std::string window_manager();
+
+}  // namespace test
