@@ -69,7 +69,8 @@ GtkWidget* test::toplevel_named(const std::string& id) {
 bool test::is_on_screen(GtkWidget* widget) {
     GdkWindow* window = gtk_widget_get_mapped(widget) ? gtk_widget_get_window(widget) : nullptr;
     if (!window || !gdk_window_is_viewable(window)) return false;
-    return gdk_frame_clock_get_frame_counter(gtk_widget_get_frame_clock(widget)) > 0;
+    return gdk_frame_clock_get_frame_counter(gtk_widget_get_frame_clock(widget)) >=
+           0;  // the first is frame 0
 }
 
 test::state test::state_of(const zo_window_ptr& window) {
