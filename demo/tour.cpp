@@ -1,0 +1,178 @@
+// SPDX-License-Identifier: MIT
+#include "tour.hpp"
+
+#include "backdrop.hpp"
+#include "tour_tools.hpp"
+
+#include <cstdio>
+#include <filesystem>
+#include <iostream>
+
+namespace {
+
+using demo::workshop;
+using namespace demo::tour;
+
+// One visit: the windows, where the pictures go, and how many there are.
+struct visit {
+    workshop& shop;
+    std::string folder;
+    int pictures = 0;
+
+    void picture(const std::string& name) {
+        char number[12];
+        std::snprintf(number, sizeof number, "%02d", ++pictures);
+        const std::string file = folder + "/" + number + "-" + name + ".png";
+        photograph(file);
+        std::cout << file << std::endl;
+    }
+
+    void expect_logged(const std::string& window, const std::string& what) {
+        expect("the log says \"" + window + " " + what + "\"",
+               [&] { return shop.log.contains(window, what); });
+    }
+};
+
+void title_button(const std::string& id, const std::string& style_class) {
+    click(widget_of_class(window_named(id), style_class));
+}
+
+void three_windows(visit& v) {
+    for (const char* id : {"notes", "studio", "settings"})
+        expect(std::string(id) + " is on screen",
+               [&] { return is_open(id) && is_on_screen(window_named(id)); });
+    v.expect_logged("studio", "activate");
+    v.picture("three-windows");
+}
+
+void drag_by_the_title(visit& v) {
+    GtkWidget* notes = window_named("notes");
+    const place before = place_of(notes);
+    drag(widget_of_class(notes, "title-text"), 40, 60);
+    const place wanted{before.x + 40, before.y + 60};
+    expect("the notes were dragged by 40, 60", [&] { return place_of(notes) == wanted; });
+    v.picture("dragged-by-the-title");
+    drag(widget_of_class(notes, "title-text"), -40, -60);
+    expect("the notes were dragged back", [&] { return place_of(notes) == before; });
+}
+
+void hint_and_back(visit& v) {
+    title_button("studio", "title-hint");
+    v.expect_logged("studio", "hint");
+    title_button("studio", "title-back");
+    v.expect_logged("studio", "back");
+}
+
+void tool_menu(visit& v) {
+    title_button("studio", "title-menu");
+    GtkWidget* menu = nullptr;
+    const auto is_menu = [&](GtkWidget* widget) {
+        return gtk_style_context_has_class(gtk_widget_get_style_context(widget), "tool-menu");
+    };
+    expect("the tool menu is on screen", [&] {
+        GList* all = gtk_window_list_toplevels();
+        menu = nullptr;
+        for (GList* item = all; item; item = item->next)
+            if (is_menu(GTK_WIDGET(item->data))) menu = GTK_WIDGET(item->data);
+        g_list_free(all);
+        return menu && is_on_screen(menu);
+    });
+    GtkWidget* entry = button_labelled(menu, "More petals");
+    point_at(entry);
+    expect("the entry under the pointer lights up",
+           [&] { return gtk_widget_get_state_flags(entry) & GTK_STATE_FLAG_PRELIGHT; });
+    v.picture("tool-menu");
+    click(entry);
+    v.expect_logged("studio", "menu: More petals");
+}
+
+void photo(visit& v) {
+    title_button("studio", "title-shoot");
+    v.expect_logged("studio", "photo: saved");
+    const std::string file = v.shop.photo_folder + "/zo-demo-photo.png";
+    GdkPixbuf* saved = gdk_pixbuf_new_from_file(file.c_str(), nullptr);
+    if (!saved) throw failed_step("the photo is a picture");
+    const int scale = gtk_widget_get_scale_factor(window_named("studio"));
+    const bool whole = gdk_pixbuf_get_width(saved) >= 360 * scale;
+    g_object_unref(saved);
+    if (!whole) throw failed_step("the photo has the window's size");
+    v.picture("photo-saved");
+}
+
+void flags_and_reopening(visit& v) {
+    GtkWidget* settings = window_named("settings");
+    click(widget_named(settings, "Back button"));
+    click(widget_named(settings, "Hint button"));
+    click(widget_named(settings, "Advertisement strip"));
+    v.expect_logged("settings", "Advertisement strip: on");
+    click(widget_named(settings, "title-entry"));
+    type("Notes, reopened");
+    v.expect_logged("notes", "title: Notes, reopened");
+    const int opening = zo_window_instance_id(v.shop.notes);
+    click(widget_named(settings, "open-again"));
+    expect("the notes are open again", [&] {
+        return zo_window_instance_id(v.shop.notes) > opening && is_open("notes") &&
+               is_on_screen(window_named("notes"));
+    });
+    widget_of_class(window_named("notes"), "title-back");
+    widget_of_class(window_named("notes"), "window-ads-container");
+    v.picture("flags-flipped-and-opened-again");
+}
+
+void closing_and_refusing(visit& v) {
+    GtkWidget* refuse = widget_named(window_named("settings"), "refuse-to-close");
+    click(refuse);
+    expect("closing is refused", [&] { return v.shop.ask_before_closing; });
+    title_button("notes", "title-close");
+    v.expect_logged("notes", "close request: refused");
+    if (!is_open("notes")) throw failed_step("the refused window is still open");
+    click(refuse);
+    expect("closing is granted", [&] { return !v.shop.ask_before_closing; });
+    title_button("notes", "title-close");
+    expect("the notes are closed", [&] { return !is_open("notes"); });
+    v.picture("notes-closed");
+}
+
+void hiding_and_restoring(visit& v) {
+    zo_window_save(v.shop.studio);
+    title_button("studio", "title-minimize");
+    expect("the studio is hidden", [&] { return !gtk_widget_get_visible(window_named("studio")); });
+    zo_window_restore(v.shop.studio);
+    v.expect_logged("studio", "restore");
+    expect("the studio is back", [&] { return is_on_screen(window_named("studio")); });
+}
+
+void leave(visit& v) {
+    demo::reopen(v.shop, v.shop.notes);
+    expect("the notes are back", [&] { return is_open("notes") && is_on_screen(window_named("notes")); });
+    v.picture("everything-back");
+    title_button("studio", "title-exit");
+    v.expect_logged("settings", "destroy");
+}
+
+void take(visit& v) {
+    for (const auto step : {three_windows, drag_by_the_title, hint_and_back, tool_menu, photo,
+                            flags_and_reopening, closing_and_refusing, hiding_and_restoring, leave})
+        step(v);
+}
+
+}  // namespace
+
+void demo::schedule_tour(workshop& shop, const std::string& folder, int& result) {
+    std::filesystem::create_directories(folder);
+    shop.photo_folder = folder;
+    const auto tour = [&shop, folder, &result] {
+        GtkWidget* backdrop = show_backdrop();
+        visit v{shop, folder};
+        try {
+            take(v);
+        } catch (const failed_step& step) {
+            std::cerr << "zo-demo: the tour failed at: " << step.what() << std::endl;
+            result = 1;
+            v.picture("failed");
+            quit(shop);
+        }
+        gtk_widget_destroy(backdrop);
+    };
+    zo_system_service_exec(tour, "demo", __LINE__);
+}

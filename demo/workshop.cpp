@@ -1,0 +1,72 @@
+// SPDX-License-Identifier: MIT
+#include "workshop.hpp"
+
+#include <algorithm>
+
+namespace {
+
+struct place {
+    double x;  // share of the free width and height of the work area
+    double y;
+};
+
+place place_of(const demo::workshop& shop, const zo_window_ptr& window) {
+    if (window == shop.notes) return {0.03, 0.08};
+    if (window == shop.studio) return {0.36, 0.16};
+    return {0.685, 0.08};
+}
+
+void move_to_place(const demo::workshop& shop, const zo_window_ptr& window) {
+    const place wanted = place_of(shop, window);
+    zo_window_move(window, zo_ui_workarea_x() + static_cast<int>(wanted.x * zo_ui_workarea_width()),
+                   zo_ui_workarea_y() + static_cast<int>(wanted.y * zo_ui_workarea_height()));
+}
+
+void appear(const demo::workshop& shop, const zo_window_ptr& window) {
+    zo_window_open(window);
+    move_to_place(shop, window);
+    zo_window_show(window);
+}
+
+}  // namespace
+
+void demo::log_life_cycle(workshop& shop, const zo_window_ptr& window, const std::string& name) {
+    const auto says = [&shop, name](const char* what) {
+        return [&shop, name, what](zo_window_ptr) { shop.log.add(name, what); };
+    };
+    zo_window_set_window_show_callback(window, says("show"));
+    zo_window_set_window_hide_callback(window, says("hide"));
+    zo_window_set_window_close_callback(window, says("close"));
+    zo_window_set_window_activate_callback(window, says("activate"));
+    zo_window_set_window_restore_callback(window, says("restore"));
+    zo_window_set_window_destroy_callback(window, says("destroy"));
+    zo_window_set_window_title_text_change_callback(
+        window, [&shop, name](zo_window_ptr, std::string title) { shop.log.add(name, "title: " + title); });
+    zo_window_set_window_close_request_callback(window, [&shop, name](zo_window_ptr) {
+        shop.log.add(name, shop.ask_before_closing ? "close request: refused" : "close request: granted");
+        return shop.ask_before_closing;
+    });
+}
+
+void demo::start(workshop& shop) {
+    for (const zo_window_ptr& window : {shop.notes, shop.studio, shop.settings}) appear(shop, window);
+    zo_window_activate(shop.studio);
+}
+
+void demo::reopen(workshop& shop, const zo_window_ptr& window) {
+    zo_window_close(window);
+    appear(shop, window);
+    zo_window_activate(window);
+}
+
+void demo::quit(workshop& shop) {
+    for (const zo_window_ptr& window : {shop.notes, shop.studio, shop.settings}) zo_window_destroy(window);
+    zo_system_service_exec([] { gtk_main_quit(); }, "demo", __LINE__);
+}
+
+GtkWidget* demo::text_label(const std::string& markup) {
+    GtkWidget* label = gtk_label_new(nullptr);
+    gtk_label_set_markup(GTK_LABEL(label), markup.c_str());
+    gtk_label_set_xalign(GTK_LABEL(label), 0);
+    return label;
+}

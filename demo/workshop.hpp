@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: MIT
+// What the demo's windows share.
+#pragma once
+
+#include "callback_log.hpp"
+
+#include <zo_ui/zo_ui.hpp>
+
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace demo {
+
+// The windows, and what one of them changes for the others.
+struct workshop {
+    zo_window_ptr notes;
+    zo_window_ptr studio;
+    zo_window_ptr settings;
+    callback_log log;
+    bool ask_before_closing = false;
+    std::string photo_folder = ".";
+    std::string notes_text =
+        "Things to try\n\n"
+        "  ·  drag a window by its title\n"
+        "  ·  open the tool menu of the studio\n"
+        "  ·  take a photo of it\n"
+        "  ·  change a flag in the settings\n"
+        "     and open the window again\n";
+};
+
+// Each makes its window and sets its callbacks; nothing is on screen before start().
+void make_notes_window(workshop& shop);
+void make_studio_window(workshop& shop);
+void make_settings_window(workshop& shop);
+
+// Logs what the library reports of the window.
+void log_life_cycle(workshop& shop, const zo_window_ptr& window, const std::string& name);
+
+// Opens and shows the three windows, each in its place on the work area.
+void start(workshop& shop);
+
+// Closes a window and opens it again in its place, so that changed flags take effect.
+void reopen(workshop& shop, const zo_window_ptr& window);
+
+// Ends the three windows and then the main loop.
+void quit(workshop& shop);
+
+// A label with Pango markup, aligned to the start.
+GtkWidget* text_label(const std::string& markup);
+
+}  // namespace demo
