@@ -47,6 +47,11 @@ GtkWidget* demo::callback_log::view_new() {
     PangoTabArray* tabs = pango_tab_array_new_with_positions(1, TRUE, PANGO_TAB_LEFT, 86);
     gtk_text_view_set_tabs(text, tabs);
     pango_tab_array_free(tabs);
+    g_signal_connect_after(view, "size-allocate",
+                           G_CALLBACK(+[](GtkTextView* shown, GdkRectangle*, GtkTextMark* end) {
+                               gtk_text_view_scroll_mark_onscreen(shown, end);
+                           }),
+                           end_);
     GtkWidget* scroll = gtk_scrolled_window_new(nullptr, nullptr);
     gtk_scrolled_window_set_shadow_type(GTK_SCROLLED_WINDOW(scroll), GTK_SHADOW_IN);
     gtk_scrolled_window_set_policy(GTK_SCROLLED_WINDOW(scroll), GTK_POLICY_NEVER, GTK_POLICY_AUTOMATIC);

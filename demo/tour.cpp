@@ -106,8 +106,8 @@ void flags_and_reopening(visit& v) {
     click(widget_named(settings, "Advertisement strip"));
     v.expect_logged("settings", "Advertisement strip: on");
     click(widget_named(settings, "title-entry"));
-    type("Notes, reopened");
-    v.expect_logged("notes", "title: Notes, reopened");
+    type("Ideas");
+    v.expect_logged("notes", "title: Ideas");
     const int opening = zo_window_instance_id(v.shop.notes);
     click(widget_named(settings, "open-again"));
     expect("the notes are open again", [&] {
@@ -161,6 +161,8 @@ void take(visit& v) {
 void demo::schedule_tour(workshop& shop, const std::string& folder, int& result) {
     std::filesystem::create_directories(folder);
     shop.photo_folder = folder;
+    g_object_set(gtk_settings_get_default(), "gtk-enable-animations", FALSE,
+                 nullptr);  // no picture of a half-way state
     const auto tour = [&shop, folder, &result] {
         GtkWidget* backdrop = show_backdrop();
         visit v{shop, folder};
