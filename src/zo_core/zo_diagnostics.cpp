@@ -35,9 +35,13 @@ void zo::log_line(std::string_view text) {
     std::cout.write(line.data(), static_cast<std::streamsize>(line.size())).flush();
 }
 
-void zo::log_warning(std::string_view body, std::string_view detail) { log_prefixed(warning_prefix, body, detail); }
+void zo::log_warning(std::string_view body, std::string_view detail) {
+    log_prefixed(warning_prefix, body, detail);
+}
 
-void zo::log_error(std::string_view body, std::string_view detail) { log_prefixed(error_prefix, body, detail); }
+void zo::log_error(std::string_view body, std::string_view detail) {
+    log_prefixed(error_prefix, body, detail);
+}
 
 std::string zo::coloured(std::string_view name) {
     std::string text(name_colour);
@@ -46,7 +50,9 @@ std::string zo::coloured(std::string_view name) {
 
 void zo::warn_null_handle(const char* function) { log_warning("null object supplied: ", coloured(function)); }
 
-void zo_assertion_faild(bool condition, std::string expression, std::string context, std::string file, int line) {
+void zo_assertion_faild(bool condition, std::string expression, std::string context, std::string file,
+                        int line) {
     if (condition) return;
-    zo::log_error("assertion failed: ", expression + " - " + context + " - " + file + ":" + std::to_string(line));
+    zo::log_error("assertion failed: ",
+                  expression + " - " + context + " - " + file + ":" + std::to_string(line));
 }

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Translations through gettext. The message ids are the keys, so that a changed English text breaks no catalogue.
+// Translations through gettext. The message ids are the keys, so that a changed English text breaks no
+// catalogue.
 #include <zo_core/zo_lang.hpp>
 
 #include <dlfcn.h>
@@ -33,8 +34,8 @@ constexpr std::array<english_text, 10> english{{
     {"toolbar-unlocked", "The panel slides away. Click to keep it open."},
 }};
 
-// Catalogues stand beside the library (prefix/share/locale), wherever the prefix was moved or staged; the configured
-// place is the fallback.
+// Catalogues stand beside the library (prefix/share/locale), wherever the prefix was moved or staged; the
+// configured place is the fallback.
 std::string locale_directory() {
     namespace fs = std::filesystem;
     Dl_info self;
@@ -43,7 +44,8 @@ std::string locale_directory() {
         fs::path prefix = fs::canonical(self.dli_fname, error).parent_path();
         for (int up = 0; up < 3 && !error && prefix.has_relative_path(); ++up) {
             prefix = prefix.parent_path();
-            if (fs::path candidate = prefix / "share" / "locale"; fs::exists(candidate / "de" / "LC_MESSAGES" / "zo.mo", error))
+            if (fs::path candidate = prefix / "share" / "locale";
+                fs::exists(candidate / "de" / "LC_MESSAGES" / "zo.mo", error))
                 return candidate;
         }
     }

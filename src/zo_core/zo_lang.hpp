@@ -5,6 +5,6 @@
 
 #include <string>
 
-// The text for `key` in the language of the process (setlocale; LANGUAGE), in UTF-8 and valid as Pango markup. English
-// when there is no translation; the key itself when it is unknown. Any thread.
+// The text for `key` in the language of the process (setlocale; LANGUAGE), in UTF-8 and valid as Pango
+// markup. English when there is no translation; the key itself when it is unknown. Any thread.
 ZO_EXPORT std::string zo_lang_get_string(std::string key);

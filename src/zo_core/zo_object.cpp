@@ -25,7 +25,8 @@ destroy_state mark_destroyed(_zo_object& object, const char* file, int line) {
 
 }  // namespace
 
-bool zo::begin_destroy(_zo_object& object, const char* file, int guard_line, const std::string& reason, int line) {
+bool zo::begin_destroy(_zo_object& object, const char* file, int guard_line, const std::string& reason,
+                       int line) {
     switch (mark_destroyed(object, file, guard_line)) {
         case destroy_state::first:
             return true;

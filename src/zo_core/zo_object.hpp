@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The base of every object of the library: its handle, its property list and lock, its destroy guard, and the counted
-// references that keep it alive beside the handles.
+// The base of every object of the library: its handle, its property list and lock, its destroy guard, and the
+// counted references that keep it alive beside the handles.
 #pragma once
 
 #include <zo_core/zo_export.hpp>
@@ -13,11 +13,12 @@
 
 class _zo_object;
 
-// A shared handle. The application, the tasks in flight and the containers that hold an object share it; the object
-// dies with its last handle.
+// A shared handle. The application, the tasks in flight and the containers that hold an object share it; the
+// object dies with its last handle.
 using zo_object_ptr = boost::shared_ptr<_zo_object>;
 
-// shared_from_this() of an object that no handle owns is a programming error: boost::bad_weak_ptr leaves the call.
+// shared_from_this() of an object that no handle owns is a programming error: boost::bad_weak_ptr leaves the
+// call.
 class ZO_EXPORT zo_object_base : public boost::enable_shared_from_this<_zo_object> {};
 
 class ZO_EXPORT _zo_object : public zo_object_base {
@@ -37,16 +38,16 @@ class ZO_EXPORT _zo_object : public zo_object_base {
     // The class's tag, such as "[zo_window]". Any thread.
     virtual std::string get_type();
 
-    // Ends the object, once. `reason` and `line` name the caller and appear in the warning that a second call writes.
-    // Any thread.
+    // Ends the object, once. `reason` and `line` name the caller and appear in the warning that a second call
+    // writes. Any thread.
     virtual void destroy(std::string reason, int line);
 
     // A printable description. Any thread.
     virtual std::string describe();
 
-    // Takes the property lock. The thread that holds it may take it again, since copying or destroying a stored
-    // callable may run code of the application. `file` and `line` name the caller, for whoever looks with a debugger;
-    // the overload for literals builds no string.
+    // Takes the property lock. The thread that holds it may take it again, since copying or destroying a
+    // stored callable may run code of the application. `file` and `line` name the caller, for whoever looks
+    // with a debugger; the overload for literals builds no string.
     void property_lock(std::string file, int line);
     void property_lock(const char* file, int line);
 
@@ -65,17 +66,17 @@ class ZO_EXPORT _zo_object : public zo_object_base {
 
     std::recursive_mutex property_mutex_;
     std::mutex refs_mutex_;
-    int refs_ = 0;         // guarded by refs_mutex_
-    zo_object_ptr held_;   // guarded by refs_mutex_; the object's own handle while refs_ is above 0
+    int refs_ = 0;        // guarded by refs_mutex_
+    zo_object_ptr held_;  // guarded by refs_mutex_; the object's own handle while refs_ is above 0
 };
 
-// Takes one counted reference: while there is one, the object lives without any handle. Any thread. An empty handle
-// writes the null-handle warning.
+// Takes one counted reference: while there is one, the object lives without any handle. Any thread. An empty
+// handle writes the null-handle warning.
 ZO_EXPORT void zo_object_ref(zo_object_ptr object);
 
-// Gives one counted reference back, at once. The object may die in this call if `object` is its last handle. Any
-// thread. One more than were taken is reported as a failed assertion and changes nothing; an empty handle writes the
-// null-handle warning. Both names do the same.
+// Gives one counted reference back, at once. The object may die in this call if `object` is its last handle.
+// Any thread. One more than were taken is reported as a failed assertion and changes nothing; an empty handle
+// writes the null-handle warning. Both names do the same.
 ZO_EXPORT void zo_object_unref(zo_object_ptr object);
 ZO_EXPORT void zo_object_unref_real(zo_object_ptr object);
 

@@ -8,8 +8,9 @@
 
 namespace zo {
 
-// The destroy guard: true for the first call on `object`, which goes on to destroy it; false, with one line written,
-// for every later one. `file` and `guard_line` are the class's own, `reason` and `line` the caller's.
+// The destroy guard: true for the first call on `object`, which goes on to destroy it; false, with one line
+// written, for every later one. `file` and `guard_line` are the class's own, `reason` and `line` the
+// caller's.
 ZO_EXPORT bool begin_destroy(_zo_object& object, const char* file, int guard_line, const std::string& reason,
                              int line);
 

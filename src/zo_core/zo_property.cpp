@@ -16,11 +16,16 @@ bool get(property_list& list, const Name& name, boost::any& out) {
 
 }  // namespace
 
-bool zo_property_get(::property_list& list, std::string name, boost::any& out) { return get(list, name, out); }
+bool zo_property_get(::property_list& list, std::string name, boost::any& out) {
+    return get(list, name, out);
+}
 
-bool zo_property_get(::property_list& list, const char* name, boost::any& out) { return get(list, name, out); }
+bool zo_property_get(::property_list& list, const char* name, boost::any& out) {
+    return get(list, name, out);
+}
 
-std::string zo::access_text(const char* operation, const char* type, std::string_view name, const spelling& how) {
+std::string zo::access_text(const char* operation, const char* type, std::string_view name,
+                            const spelling& how) {
     const char* quote = how.literal_name ? "\"" : "";
     std::string text(operation);
     text.append("<").append(type).append(">(").append(how.list).append(",").append(quote);

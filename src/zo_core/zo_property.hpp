@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 // The property list: named values of any type, and the typed access to them.
 //
-// Every function here works on the list alone. The caller holds the property lock of the object that owns the list
-// (see zo_object.hpp). Names are compared byte by byte. The overloads that take a `const char*` do the same as those
-// that take a string, and build none.
+// Every function here works on the list alone. The caller holds the property lock of the object that owns the
+// list (see zo_object.hpp). Names are compared byte by byte. The overloads that take a `const char*` do the
+// same as those that take a string, and build none.
 #pragma once
 
 #include <zo_core/zo_export.hpp>
@@ -44,8 +44,8 @@ bool property_init(::property_list& list, Name&& name, T& value) {
     return true;
 }
 
-// A value of the same type changes places with `value`: nothing is allocated, and the caller's `value` takes the old
-// one with it.
+// A value of the same type changes places with `value`: nothing is allocated, and the caller's `value` takes
+// the old one with it.
 template <typename T, typename Name>
 bool property_set(::property_list& list, Name&& name, T& value) {
     const auto place = list.lower_bound(name);
@@ -92,8 +92,8 @@ bool zo_property_set(::property_list& list, const char* name, T value) {
     return zo::property_set<T>(list, name, value);
 }
 
-// Copies the value stored under `name` to `*value`. False, and `*value` stays, when there is none. A stored type other
-// than `T` is a programming error: boost::bad_any_cast leaves the call.
+// Copies the value stored under `name` to `*value`. False, and `*value` stays, when there is none. A stored
+// type other than `T` is a programming error: boost::bad_any_cast leaves the call.
 template <typename T>
 bool zo_property_get_extract(::property_list& list, std::string name, T* value) {
     return zo::property_get_extract<T>(list, name, value);

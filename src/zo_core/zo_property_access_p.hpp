@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The library's own access to property lists: one scope that holds the lock, and checked operations inside it.
+// The library's own access to property lists: one scope that holds the lock, and checked operations inside
+// it.
 #pragma once
 
 #include <zo_core/zo_diagnostics.hpp>
@@ -37,12 +38,13 @@ struct spelling {
 ZO_EXPORT std::string access_text(const char* operation, const char* type, std::string_view name,
                                   const spelling& how);
 
-// Holds the property lock of an object for one scope. A check that fails is reported at the line after the previous
-// one's, counted from the line of the lock. Values that an operation replaces are destroyed by the caller or after the
-// lock is given back, since their destructors may run code of the application.
+// Holds the property lock of an object for one scope. A check that fails is reported at the line after the
+// previous one's, counted from the line of the lock. Values that an operation replaces are destroyed by the
+// caller or after the lock is given back, since their destructors may run code of the application.
 class property_guard {
   public:
-    property_guard(_zo_object& object, const char* file, int line) : object_(object), file_(file), line_(line) {
+    property_guard(_zo_object& object, const char* file, int line)
+        : object_(object), file_(file), line_(line) {
         object_.property_lock(file, line);
     }
     ~property_guard() { object_.property_unlock(); }
@@ -71,9 +73,12 @@ class property_guard {
 
   private:
     // Builds no text unless there is something to report.
-    void check(bool done, const char* operation, const char* type, std::string_view name, const spelling& how) {
+    void check(bool done, const char* operation, const char* type, std::string_view name,
+               const spelling& how) {
         ++line_;
-        if (!done) zo_assertion_faild(false, access_text(operation, type, name, how), std::string(name), file_, line_);
+        if (!done)
+            zo_assertion_faild(false, access_text(operation, type, name, how), std::string(name), file_,
+                               line_);
     }
 
     _zo_object& object_;

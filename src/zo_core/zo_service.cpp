@@ -18,8 +18,8 @@ void zo_system_service_exec(std::function<void()> task, std::string file, int li
     if (accept(task, __func__, file, line)) zo::task_queue::instance().post(task);
 }
 
-unsigned long zo_system_service_timeout(std::function<void()> task, unsigned long milliseconds, std::string file,
-                                        int line) {
+unsigned long zo_system_service_timeout(std::function<void()> task, unsigned long milliseconds,
+                                        std::string file, int line) {
     return accept(task, __func__, file, line) ? zo::timer_list::instance().add(task, milliseconds) : 0;
 }
 

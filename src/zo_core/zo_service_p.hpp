@@ -2,10 +2,10 @@
 // The two halves of the service.
 #pragma once
 
+#include <glib.h>
 #include <atomic>
 #include <cstdint>
 #include <functional>
-#include <glib.h>
 #include <map>
 #include <mutex>
 #include <set>
@@ -18,9 +18,9 @@ using task = std::function<void()>;
 
 // First in, first out, from any thread to the default main context.
 //
-// Two sources carry it. The eager one runs at default priority, before drawing. After a batch that left new tasks
-// behind it steps aside for a few turns of the loop, in which the patient one, at the priority of drawing, carries on:
-// so tasks that keep posting cannot stop the drawing, and drawing cannot stop the tasks.
+// Two sources carry it. The eager one runs at default priority, before drawing. After a batch that left new
+// tasks behind it steps aside for a few turns of the loop, in which the patient one, at the priority of
+// drawing, carries on: so tasks that keep posting cannot stop the drawing, and drawing cannot stop the tasks.
 class task_queue {
   public:
     static task_queue& instance();
@@ -53,8 +53,8 @@ class task_queue {
     void attach(GSourceFuncs& functions, int priority, const char* name);
 
     std::mutex mutex_;
-    std::vector<task> posted_;    // guarded by mutex_
-    phase phase_ = phase::open;   // guarded by mutex_
+    std::vector<task> posted_;   // guarded by mutex_
+    phase phase_ = phase::open;  // guarded by mutex_
     std::atomic<bool> waiting_{false};
     std::atomic<bool> done_{false};
 
@@ -87,9 +87,9 @@ class timer_list {
     void arm();
     static gboolean dispatch(GSource* source, GSourceFunc, gpointer);
 
-    std::mutex mutex_;                                       // guards all of the following
-    std::map<unsigned long, timer> timers_;                  // due ones too, until they run
-    std::set<std::pair<gint64, unsigned long>> schedule_;    // those not yet due
+    std::mutex mutex_;                                     // guards all of the following
+    std::map<unsigned long, timer> timers_;                // due ones too, until they run
+    std::set<std::pair<gint64, unsigned long>> schedule_;  // those not yet due
     unsigned long last_id_ = 0;
     bool ended_ = false;
     GSource* source_ = nullptr;

@@ -16,7 +16,8 @@ constexpr int turns_aside = 3;
 // A task that posts itself for ever must not keep the process from leaving.
 constexpr int last_generations = 1000;
 
-// Above this capacity an empty vector gives its memory back: a burst of posts must not stay for the process's life.
+// Above this capacity an empty vector gives its memory back: a burst of posts must not stay for the process's
+// life.
 constexpr std::size_t kept_capacity = 1024;
 
 struct queue_source {

@@ -5,7 +5,8 @@
 
 namespace {
 
-// Even a delay of 0 lets the loop turn once without us: a task that arms itself again must not stop the drawing.
+// Even a delay of 0 lets the loop turn once without us: a task that arms itself again must not stop the
+// drawing.
 gint64 deadline_after(unsigned long milliseconds) {
     const gint64 now = g_get_monotonic_time();
     const auto longest = static_cast<unsigned long>((G_MAXINT64 - now) / 1000);
@@ -37,7 +38,9 @@ timer_list::timer_list() {
 }
 
 // Wakes the loop for the earliest deadline. With mutex_ held.
-void timer_list::arm() { g_source_set_ready_time(source_, schedule_.empty() ? -1 : schedule_.begin()->first); }
+void timer_list::arm() {
+    g_source_set_ready_time(source_, schedule_.empty() ? -1 : schedule_.begin()->first);
+}
 
 unsigned long timer_list::add(task& next, unsigned long milliseconds) {
     std::lock_guard lock(mutex_);
