@@ -157,17 +157,18 @@ void _zo_window::on_window_state(const GdkEventWindowState& event) {
 }
 
 void _zo_window::centre(int width, int height) {
+    if (zo_ui_workarea_width() <= 0 || zo_ui_workarea_height() <= 0) return;
     gtk_window_move(GTK_WINDOW(widgets_.window), zo_ui_workarea_x() + (zo_ui_workarea_width() - width) / 2,
                     zo_ui_workarea_y() + (zo_ui_workarea_height() - height) / 2);
     centred_width_ = width;
     centred_height_ = height;
 }
 
-// The un-maximised size may come after the state: then the window is centred once more.
+// The un-maximised size may come after the state: then the window is centred once more. What comes later is
+// the user's (test "ALaterSizeLeavesTheWindowInItsPlace").
 void _zo_window::on_configured(const GdkEventConfigure& event) {
-    if (!centring_ || (event.width == centred_width_ && event.height == centred_height_)) return;
-    centring_ = false;
-    centre(event.width, event.height);
+    if (!std::exchange(centring_, false)) return;
+    if (event.width != centred_width_ || event.height != centred_height_) centre(event.width, event.height);
 }
 
 // A desktop that sees a window go and come back at once takes the hints away that GTK set in between. When
