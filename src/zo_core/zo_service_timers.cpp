@@ -48,7 +48,8 @@ unsigned long timer_list::add(task& next, unsigned long milliseconds) {
     const unsigned long id = ++last_id_;
     const gint64 deadline = deadline_after(milliseconds);
     timers_.emplace(id, timer{deadline, std::move(next)});
-    if (schedule_.emplace(deadline, id).first == schedule_.begin()) arm();
+    schedule_.emplace(deadline, id);
+    arm();
     return id;
 }
 
