@@ -42,6 +42,7 @@ class task_queue {
     void run_batch();
     void drain();
     void note_waiting();
+    bool is(phase wanted);
     bool try_close();
     void discard();
     static task_queue& of(GSource* source);
@@ -64,6 +65,7 @@ class task_queue {
     std::uint64_t taken_ = 0;
     std::uint64_t begun_ = 0;
     int stand_aside_ = 0;  // turns of the loop that the eager source lets pass
+    bool draining_ = false;
 };
 
 // Timeouts: one source that wakes for the earliest and hands what is due to the task queue.

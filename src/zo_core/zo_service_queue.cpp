@@ -103,10 +103,15 @@ void task_queue::run_batch() {
             queue.stand_aside_ = queue.waiting_ ? turns_aside : 0;
         }
     } const at_the_end{*this};
-    if (done_) return drain();
+    if (!draining_ && is(phase::ending)) return drain();
     take_posted();
     const std::uint64_t last = taken_;
     while (begun_ < last && !ready_.empty()) run_one();
+}
+
+bool task_queue::is(phase wanted) {
+    std::lock_guard lock(mutex_);
+    return phase_ == wanted;
 }
 
 bool task_queue::try_close() {
@@ -123,27 +128,31 @@ void task_queue::discard() {
     rest.swap(posted_);
 }
 
+// A loop nested in one of these tasks only runs a batch: the queue closes when the outermost task is through.
 void task_queue::drain() {
-    for (int generation = 0; generation < last_generations; ++generation) {
+    draining_ = true;
+    bool closed = false;
+    for (int generation = 0; generation < last_generations && !closed; ++generation) {
         take_posted();
         const std::uint64_t last = taken_;
         while (begun_ < last && !ready_.empty()) run_one();
-        if (try_close()) return;
+        closed = try_close();
     }
-    discard();
+    if (!closed) discard();
+    draining_ = false;
 }
 
 void task_queue::end() {
+    if (is(phase::closed)) return;
+    done_ = true;
+    timer_list::instance().drop_all();  // before the queue can close: what they hold goes on the loop
     {
         std::lock_guard lock(mutex_);
-        if (phase_ != phase::open) return;
-        phase_ = phase::ending;
-        done_ = true;
+        if (phase_ == phase::open) phase_ = phase::ending;
         waiting_ = true;
     }
-    timer_list::instance().drop_all();
     if (g_main_context_acquire(nullptr)) {
-        drain();
+        if (!draining_) drain();
         note_waiting();
         g_main_context_release(nullptr);
     } else {

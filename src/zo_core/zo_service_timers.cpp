@@ -30,6 +30,7 @@ timer_list& timer_list::instance() {
 }
 
 timer_list::timer_list() {
+    task_queue::instance();  // whose end is the timeouts' end too
     static GSourceFuncs functions{nullptr, nullptr, dispatch, nullptr, nullptr, nullptr};
     source_ = g_source_new(&functions, sizeof(GSource));
     g_source_set_static_name(source_, "zo timeouts");
