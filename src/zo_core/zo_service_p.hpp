@@ -19,8 +19,9 @@ using task = std::function<void()>;
 // First in, first out, from any thread to the default main context.
 //
 // Two sources carry it. The eager one runs at default priority, before drawing. After a batch that left new
-// tasks behind it steps aside for a few turns of the loop, in which the patient one, at the priority of
-// drawing, carries on: so tasks that keep posting cannot stop the drawing, and drawing cannot stop the tasks.
+// tasks behind, and for timeouts, it steps aside for a moment, in which the patient one, at the
+// priority of drawing, carries on: so tasks that keep posting cannot stop the drawing, and drawing cannot
+// stop the tasks.
 class task_queue {
   public:
     static task_queue& instance();
@@ -30,6 +31,9 @@ class task_queue {
 
     // Runs what is queued now, and what it posts, until nothing is left, then refuses every post.
     void end();
+
+    // Lets everything else on the loop go before the next task, for a little. On the loop.
+    void let_others_first();
 
     bool done() const { return done_; }
 
@@ -64,7 +68,7 @@ class task_queue {
     std::size_t next_ready_ = 0;
     std::uint64_t taken_ = 0;
     std::uint64_t begun_ = 0;
-    int stand_aside_ = 0;  // turns of the loop that the eager source lets pass
+    gint64 aside_until_ = 0;  // monotonic time; until then the eager source stays aside
     bool draining_ = false;
 };
 

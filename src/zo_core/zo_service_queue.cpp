@@ -10,8 +10,9 @@ namespace {
 // GTK draws at this priority. The core does not know GTK, so the number is spelled here.
 constexpr int drawing_priority = G_PRIORITY_HIGH_IDLE + 20;
 
-// g_main_context_pending and the iteration after it are two turns, so one would not be enough.
-constexpr int turns_aside = 3;
+// How long tasks step aside: long enough for the next turn of the loop, however often it is asked whether
+// anything is pending, and short beside a frame, so that steady work of others hardly delays them.
+constexpr gint64 patience = G_TIME_SPAN_MILLISECOND;
 
 // A task that posts itself for ever must not keep the process from leaving.
 constexpr int last_generations = 1000;
@@ -100,13 +101,17 @@ void task_queue::run_batch() {
         task_queue& queue;
         ~leave() {
             queue.note_waiting();
-            queue.stand_aside_ = queue.waiting_ ? turns_aside : 0;
+            queue.aside_until_ = queue.waiting_ ? g_get_monotonic_time() + patience : 0;
         }
     } const at_the_end{*this};
     if (!draining_ && is(phase::ending)) return drain();
     take_posted();
     const std::uint64_t last = taken_;
     while (begun_ < last && !ready_.empty()) run_one();
+}
+
+void task_queue::let_others_first() {
+    if (!waiting_) aside_until_ = g_get_monotonic_time() + patience;
 }
 
 bool task_queue::is(phase wanted) {
@@ -164,16 +169,12 @@ task_queue& task_queue::of(GSource* source) { return *reinterpret_cast<queue_sou
 
 gboolean task_queue::eager_prepare(GSource* source, gint* timeout) {
     *timeout = -1;
-    task_queue& queue = of(source);
-    if (!queue.waiting_) return FALSE;
-    if (queue.stand_aside_ == 0) return TRUE;
-    --queue.stand_aside_;
-    return FALSE;
+    return eager_check(source);
 }
 
 gboolean task_queue::eager_check(GSource* source) {
     const task_queue& queue = of(source);
-    return queue.waiting_ && queue.stand_aside_ == 0;
+    return queue.waiting_ && g_source_get_time(source) >= queue.aside_until_;
 }
 
 gboolean task_queue::patient_prepare(GSource* source, gint* timeout) {

@@ -95,6 +95,7 @@ void timer_list::run(unsigned long id) {
 void timer_list::post_due() {
     std::lock_guard lock(mutex_);
     const gint64 now = g_get_monotonic_time();
+    task_queue::instance().let_others_first();
     while (!schedule_.empty() && schedule_.begin()->first <= now) {
         task next = [this, id = schedule_.begin()->second] { run(id); };
         task_queue::instance().post(next);
