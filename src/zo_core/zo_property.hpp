@@ -45,17 +45,17 @@ bool property_init(::property_list& list, Name&& name, T& value) {
 }
 
 // A value of the same type changes places with `value`: nothing is allocated, and the caller's `value` takes
-// the old one with it.
+// the old one with it. An old one of another type goes to `other`.
 template <typename T, typename Name>
-bool property_set(::property_list& list, Name&& name, T& value) {
+bool property_set(::property_list& list, Name&& name, T& value, boost::any& other) {
     const auto place = list.lower_bound(name);
     if (place == list.end() || place->first != name) {
         list.emplace_hint(place, std::forward<Name>(name), boost::any(std::move(value)));
     } else if (T* stored = value_in<T>(place->second)) {
         std::swap(*stored, value);
     } else {
-        boost::any old(std::move(value));
-        place->second.swap(old);
+        other = boost::any(std::move(value));
+        place->second.swap(other);
     }
     return true;
 }
@@ -85,11 +85,13 @@ bool zo_property_init(::property_list& list, const char* name, T value) {
 // Stores `value` as a `T` under `name`, whatever stood there before, or nothing. Always true.
 template <typename T>
 bool zo_property_set(::property_list& list, std::string name, T value) {
-    return zo::property_set<T>(list, std::move(name), value);
+    boost::any old;
+    return zo::property_set<T>(list, std::move(name), value, old);
 }
 template <typename T>
 bool zo_property_set(::property_list& list, const char* name, T value) {
-    return zo::property_set<T>(list, name, value);
+    boost::any old;
+    return zo::property_set<T>(list, name, value, old);
 }
 
 // Copies the value stored under `name` to `*value`. False, and `*value` stays, when there is none. A stored

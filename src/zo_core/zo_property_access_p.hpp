@@ -8,6 +8,8 @@
 
 #include <string>
 #include <string_view>
+#include <utility>
+#include <vector>
 
 namespace zo {
 
@@ -67,7 +69,9 @@ class property_guard {
     // Afterwards `value` holds what it replaced; the caller lets it outlive the guard.
     template <typename T, typename Name>
     void write(const Name& name, T& value, const spelling& how) {
-        const bool done = property_set<T>(object_.property_list, name, value);
+        boost::any other;
+        const bool done = property_set<T>(object_.property_list, name, value, other);
+        if (!other.empty()) replaced_.push_back(std::move(other));
         check(done, "zo_property_set", type_text<T>::value, name, how);
     }
 
@@ -84,6 +88,8 @@ class property_guard {
     _zo_object& object_;
     const char* file_;
     int line_;
+    // Of another type than what came in their place; destroyed after the lock is given back.
+    std::vector<boost::any> replaced_;
 };
 
 }  // namespace zo

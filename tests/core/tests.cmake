@@ -1,3 +1,7 @@
+zo_test(core_property_list_test FILES core/property_list_test.cpp)
+zo_test(core_property_overloads_test FILES core/property_overloads_test.cpp)
+zo_test(core_property_access_test FILES core/property_access_test.cpp)
+zo_test(core_property_lock_test FILES core/property_lock_test.cpp)
 zo_test(core_service_order_test FILES core/service_order_test.cpp core/sleeping_loop.cpp)
 zo_test(core_service_captures_test FILES core/service_captures_test.cpp)
 zo_test(core_service_fairness_test FILES core/service_fairness_test.cpp)
