@@ -1,10 +1,22 @@
+zo_test(core_object_test FILES core/object_test.cpp)
+zo_test(core_refs_test FILES core/refs_test.cpp)
+zo_test(core_counters_test FILES core/counters_test.cpp)
+zo_test(core_unique_id_test FILES core/unique_id_test.cpp)
+zo_test(core_destroy_guard_test FILES core/destroy_guard_test.cpp)
+
 zo_test(core_property_list_test FILES core/property_list_test.cpp)
 zo_test(core_property_overloads_test FILES core/property_overloads_test.cpp)
 zo_test(core_property_access_test FILES core/property_access_test.cpp)
 zo_test(core_property_lock_test FILES core/property_lock_test.cpp)
+
+zo_test(core_diagnostics_test FILES core/diagnostics_test.cpp core/child_process.cpp)
+zo_test(core_lang_test FILES core/lang_test.cpp core/child_process.cpp)
+add_dependencies(core_lang_test zo_catalogues)
+
 zo_test(core_service_order_test FILES core/service_order_test.cpp core/sleeping_loop.cpp)
 zo_test(core_service_captures_test FILES core/service_captures_test.cpp)
 zo_test(core_service_fairness_test FILES core/service_fairness_test.cpp)
 zo_test(core_service_timeout_test FILES core/service_timeout_test.cpp core/sleeping_loop.cpp)
 zo_test(core_service_end_test FILES core/service_end_test.cpp core/child_process.cpp)
 zo_test(core_service_exit_test FILES core/service_exit_test.cpp core/child_process.cpp)
+zo_test(core_threads_test FILES core/threads_test.cpp)
