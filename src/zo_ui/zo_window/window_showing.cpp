@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Opening, showing, hiding, activating and restoring. After each callback everything that was known is asked
 // again: the callback may have closed, destroyed or re-opened the window, or have run a loop of its own.
+// The flag "window-opened" is a property that the application can write: it promises no toplevel.
 #include <zo_ui/zo_window/window_p.hpp>
 
 #include <zo_core/zo_diagnostics.hpp>
@@ -54,7 +55,7 @@ void _zo_window::_hide() {
     set_visible(false);
     GtkWidget* const window = widgets_.window;
     was_hidden_ = true;
-    gtk_widget_hide(window);
+    if (window) gtk_widget_hide(window);
     if (widgets_.tool_menu) gtk_widget_hide(widgets_.tool_menu);
     if (fn) fn(handle());
     if (still_in(window, false)) tell_manager(&zo::window_host::on_window_hidden);
@@ -70,6 +71,7 @@ void _zo_window::_activate() {
         guard.read("window-activate", fn, {"&fn"});
     }
     GtkWidget* const window = widgets_.window;
+    if (!window) return;
     if (above) keep_above();
     gtk_window_present(GTK_WINDOW(window));
     gtk_widget_grab_focus(window);
@@ -94,6 +96,7 @@ void _zo_window::_restore() {
 }
 
 void _zo_window::keep_above() {
+    if (!widgets_.window) return;
     kept_above_ = true;
     gtk_window_set_keep_above(GTK_WINDOW(widgets_.window), TRUE);
 }
