@@ -1,4 +1,8 @@
 # The window's properties and its life.
-foreach(name defaults flags null_handles casting callbacks texts events content_child move restore)
+foreach(name defaults flags null_handles casting callbacks texts events content_child move restore
+        lifecycle)
   zo_ui_test(window/window_${name}_test)
+endforeach()
+foreach(name order slots)
+  zo_ui_inner_test(window/window_${name}_test)
 endforeach()
