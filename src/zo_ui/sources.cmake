@@ -16,6 +16,7 @@ zo_library(zo_ui
     zo_ui/toolkit/theme.cpp
     zo_ui/toolkit/tools.cpp
     zo_ui/toolkit/widgets.cpp
+    zo_ui/zo_notification/notification_managed.cpp
     zo_ui/zo_window/window.cpp
     zo_ui/zo_window/window_active.cpp
     zo_ui/zo_window/window_callbacks.cpp
@@ -37,7 +38,18 @@ zo_library(zo_ui
     zo_ui/zo_window/window_tool_menu_keys.cpp
     zo_ui/zo_window/window_tree.cpp
     zo_ui/zo_window/window_tree_handlers.cpp
-    zo_ui/zo_window_manager/manager_host.cpp
+    zo_ui/zo_window_manager/manager.cpp
+    zo_ui/zo_window_manager/manager_api.cpp
+    zo_ui/zo_window_manager/manager_extend.cpp
+    zo_ui/zo_window_manager/manager_layout.cpp
+    zo_ui/zo_window_manager/manager_layout_handlers.cpp
+    zo_ui/zo_window_manager/manager_lifecycle.cpp
+    zo_ui/zo_window_manager/manager_registration.cpp
+    zo_ui/zo_window_manager/manager_slots.cpp
+    zo_ui/zo_window_manager/manager_state.cpp
+    zo_ui/zo_window_manager/manager_task.cpp
+    zo_ui/zo_window_manager/manager_task_buttons.cpp
+    zo_ui/zo_window_manager/window_list.cpp
   HEADERS
     zo_ui/platform/linux.hpp
     zo_ui/zo_handles.hpp
@@ -49,6 +61,7 @@ zo_library(zo_ui
     zo_ui/zo_ui_widgets.hpp
     zo_ui/zo_window.hpp
     zo_ui/zo_window_event.hpp
+    zo_ui/zo_window_manager.hpp
   PUBLIC zo_core PkgConfig::GTK3
   PRIVATE PkgConfig::X11 PkgConfig::XMU)
 target_compile_definitions(zo_ui_objects PRIVATE G_LOG_DOMAIN="zo_ui")

@@ -17,6 +17,8 @@
 
 #include <zo_ui/zo_window.hpp>
 
+#include <zo_ui/zo_window_manager.hpp>
+
 #include <zo_ui/zo_theme.hpp>
 
 #include <zo_ui/zo_ui_connect.hpp>
