@@ -6,6 +6,22 @@
 
 namespace source = zo::window_source;
 
+namespace {
+
+// True for one scope, also when an exception leaves it.
+class scoped_mark {
+  public:
+    explicit scoped_mark(bool& mark) : mark_(mark) { mark_ = true; }
+    ~scoped_mark() { mark_ = false; }
+    scoped_mark(const scoped_mark&) = delete;
+    scoped_mark& operator=(const scoped_mark&) = delete;
+
+  private:
+    bool& mark_;
+};
+
+}  // namespace
+
 void _zo_window::_close() {
     if (!is_opened() || is_destroyed()) return;
     const zo_window_ptr self = handle();
@@ -36,8 +52,8 @@ void _zo_window::take_tree_down() {
 
 void _zo_window::_destroy() {
     if (is_destroyed() || destroying_) return;
-    destroying_ = true;
     const zo_window_ptr self = handle();
+    const scoped_mark mark(destroying_);
     std::function<void(zo_window_ptr)> fn;
     std::vector<boost::any> cleared;
     {

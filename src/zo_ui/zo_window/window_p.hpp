@@ -164,7 +164,7 @@ class _zo_window : public _zo_object {
     bool centring_ = false;      // the un-maximised size may still be on its way
     int centred_width_ = 0;      // the size it was centred for
     int centred_height_ = 0;
-    bool destroying_ = false;  // _destroy has begun: nothing opens the window again
+    bool destroying_ = false;  // _destroy is running: nothing opens the window again
 };
 
 namespace zo {
