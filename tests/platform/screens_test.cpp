@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A server with two screens of its own, which are two roots.
+// A server of the test's own, with two screens, which are two roots, and without any client before.
 #include <gtest/gtest.h>
 #include <zo_ui/platform/linux.hpp>
 #include <zo_ui/platform/linux/pointer_p.hpp>
@@ -60,6 +60,12 @@ TEST_F(Screens, ActivatingAsksTheDefaultScreensManager) {
     XEvent event{};
     EXPECT_TRUE(XCheckTypedEvent(manager, ClientMessage, &event));
     EXPECT_FALSE(XCheckTypedEvent(other, ClientMessage, &event));
+}
+
+TEST_F(Screens, ANameThatTheServerDoesNotKnowIsNotMadeKnownByAsking) {
+    const test::x_client asking;
+    EXPECT_EQ(getWindowPid(asking, asking.root()), 0);
+    EXPECT_EQ(XInternAtom(asking, "_NET_WM_PID", True), Atom{None});
 }
 
 }  // namespace

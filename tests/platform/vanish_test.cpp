@@ -100,4 +100,14 @@ TEST_F(Vanish, EverythingAtOnce) {
         10);
 }
 
+TEST_F(Vanish, WithoutAnActiveWindowOnlyTheFocusIsAskedFor) {
+    owner.focus(None);
+    const test::opened_connection opened([](Display* display) { test::watch_requests(display, nullptr); });
+    unsigned long window = 99;
+    std::string title, res_name, res_class;
+    int pid = 99;
+    EXPECT_FALSE(getActiveWindowInfo(window, title, res_name, res_class, pid));
+    EXPECT_EQ(test::watched_requests(), 1 + 1) << "closing makes one";
+}
+
 }  // namespace

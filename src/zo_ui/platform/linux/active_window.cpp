@@ -12,7 +12,7 @@ using zo::platform::x_memory;
 
 Window get_focus_window(Display* display) {
     if (!display) return 0;
-    const error_trap trap(display);
+    // The one request that has no errors.
     Window focus = 0;
     int revert_to = 0;
     XGetInputFocus(display, &focus, &revert_to);
@@ -41,6 +41,7 @@ Window get_named_window(Display* display, Window window) {
     if (!display || window == 0 || window == PointerRoot) return 0;
     const error_trap trap(display);
     const Window client = XmuClientWindow(display, window);
+    // One that carries the state itself names none; test "AWindowThatItselfCarriesTheStateNamesNone".
     return client != window ? client : 0;
 }
 

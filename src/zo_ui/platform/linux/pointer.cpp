@@ -3,8 +3,7 @@
 
 #include <zo_ui/platform/linux/connection_p.hpp>
 
-// The missing display is fatal in optimised builds too, and <cassert> declares the C library's report only
-// like this.
+// A missing display is fatal in optimised builds too; the C library's report is declared only like this.
 #undef NDEBUG
 #include <cassert>
 #include <cstdio>
@@ -25,7 +24,7 @@ bool GetCursorPos(int* x, int* y) {
         return true;
     }
     std::fputs("No mouse found.\n", stderr);
-    // Deliberate; see the test PointerOnNoScreen.
+    // The connection stays on purpose; test "PointerOnNoScreen".
     own.leave_open();
     return false;
 }

@@ -43,8 +43,7 @@ Window find_window_by_class(Display* display, Window window, const char* res_nam
     if (!display) return 0;
     const error_trap trap(display);
     const wanted what{res_name, res_class};
-    // No window at all stands for the root, which then counts as its own top. A root that is named has no
-    // top.
+    // 0 stands for the root, which then counts as its own top; a root that is named has none.
     if (window == 0) return search(display, DefaultRootWindow(display), what);
     return get_top_window(display, window) != 0 ? search(display, window, what)
                                                 : search_children(display, window, what);

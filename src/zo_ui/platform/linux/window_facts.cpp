@@ -27,8 +27,8 @@ bool get_window_class(Display* display, Window window, std::string& res_name, st
     if (!XGetClassHint(display, window, hint.get())) return false;
     const x_memory<char> name(hint->res_name);
     const x_memory<char> class_name(hint->res_class);
-    res_name = name ? name.get() : "";
-    res_class = class_name ? class_name.get() : "";
+    res_name = name.get();
+    res_class = class_name.get();
     return true;
 }
 

@@ -20,10 +20,8 @@ namespace {
 // this kind that arrives while a trap's thread waits is that of the trap's own request.
 bool is_query(int major_code) {
     switch (major_code) {
-        case X_GetInputFocus:
         case X_GetProperty:
         case X_InternAtom:
-        case X_QueryPointer:
         case X_QueryTree:
             return true;
         default:
