@@ -1,11 +1,9 @@
 // SPDX-License-Identifier: MIT
 // A property that holds another type is a programming error: the exception leaves the call, and the lock is
 // free again.
+#include "ui/window/lock_probe.hpp"
 #include "ui/window/property_steps.hpp"
 #include "ui/window/window_tables.hpp"
-
-#include <future>
-#include <thread>
 
 namespace {
 
@@ -33,20 +31,6 @@ class spoiled_property {
     boost::any right_;
 };
 
-// The lock may be taken again by the thread that holds it, so another thread has to ask.
-bool lock_is_free(const zo_window_ptr& window) {
-    auto asked = std::make_shared<std::promise<void>>();
-    std::future<void> done = asked->get_future();
-    std::thread other([object = zo_window_to_object(window), asked] {
-        object->property_lock("another thread", 1);
-        object->property_unlock();
-        asked->set_value();
-    });
-    const bool free = done.wait_for(std::chrono::seconds(10)) == std::future_status::ready;
-    free ? other.join() : other.detach();
-    return free;
-}
-
 class WindowWrongType : public testing::Test {
   protected:
     ~WindowWrongType() override { EXPECT_EQ(output.text(), ""); }
@@ -55,7 +39,7 @@ class WindowWrongType : public testing::Test {
     void expect_throw(const char* property, const Call& call) {
         const spoiled_property spoiled(window, property);
         EXPECT_THROW(call(), boost::bad_any_cast) << property;
-        EXPECT_TRUE(lock_is_free(window)) << property;
+        EXPECT_TRUE(test::lock_is_free(window)) << property;
     }
 
     test::captured_output output;
@@ -101,7 +85,7 @@ TEST_F(WindowWrongType, Steps) {
         {
             const spoiled_property spoiled(used, step.property);
             EXPECT_THROW(step.run(*used.get()), boost::bad_any_cast) << step.property;
-            EXPECT_TRUE(lock_is_free(used)) << step.property;
+            EXPECT_TRUE(test::lock_is_free(used)) << step.property;
         }
         EXPECT_EQ(test::state_of(used), before) << step.property;
     }
