@@ -51,6 +51,7 @@ void _zo_window::on_menu_clicked() {
     const auto fn = callback<void(zo_window_ptr, GtkGrid*)>("menu-create", zo::window_source::menu_action);
     GtkWidget* const window = widgets_.window;
     if (!fn || !window) return;
+    const owned_widget held(GTK_WIDGET(g_object_ref(window)));  // no later window gets its address
     const owned_widget grid(GTK_WIDGET(g_object_ref_sink(gtk_grid_new())));
     zo::add_class(grid.get(), "tool-menu-grid");
     fn(handle(), GTK_GRID(grid.get()));
@@ -88,8 +89,10 @@ void _zo_window::style_tool_menu(GtkWidget* menu) {
     zo::add_class(menu, "tool-menu");
     zo::add_class(menu, "zo-window");
     std::string style_class;
-    zo::property_guard guard(*this, zo::window_source::file, zo::window_source::menu_action);
-    guard.read("window-class", style_class, {"&window_class"});
+    {
+        zo::property_guard guard(*this, zo::window_source::file, zo::window_source::menu_action);
+        guard.read("window-class", style_class, {"&window_class"});
+    }
     zo::add_class(menu, style_class.c_str());
 }
 

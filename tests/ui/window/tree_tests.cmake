@@ -12,4 +12,12 @@ endfunction()
 
 tree_test(window_tree_test window_tree_popup_test window_tree_toplevel_test window_tree_opening_test
   window_tree_reads_test window_tree_signals_test window_tree_geometry_test window_tree_unprepared_test
-  window_maximise_test)
+  window_maximise_test window_size_test window_title_test window_title_theme_test window_title_text_test window_title_clicks_test window_title_ending_test
+  window_photo_test)
+
+# Once more on a screen with two device pixels to a pixel.
+foreach(wm openbox none)
+  add_test(NAME window_photo_test.scale2.${wm}
+    COMMAND ${session} -w ${wm} -- ${ENV_PROGRAM} ${test_environment} GDK_SCALE=2 $<TARGET_FILE:window_photo_test>)
+  set_tests_properties(window_photo_test.scale2.${wm} PROPERTIES TIMEOUT 300)
+endforeach()
