@@ -60,5 +60,11 @@ GtkWidget* demo::callback_log::view_new() {
 }
 
 bool demo::callback_log::contains(const std::string& window, const std::string& what) const {
-    return std::find(lines_.begin(), lines_.end(), line_of(window, what)) != lines_.end();
+    return contains_since(0, window, what);
+}
+
+bool demo::callback_log::contains_since(std::size_t first, const std::string& window,
+                                        const std::string& what) const {
+    return std::find(lines_.begin() + static_cast<std::ptrdiff_t>(first), lines_.end(),
+                     line_of(window, what)) != lines_.end();
 }

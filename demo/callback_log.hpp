@@ -22,6 +22,7 @@ class callback_log {
     GtkWidget* view_new();
 
     bool contains(const std::string& window, const std::string& what) const;
+    bool contains_since(std::size_t first, const std::string& window, const std::string& what) const;
     std::size_t size() const { return lines_.size(); }
 
   private:

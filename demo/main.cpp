@@ -30,6 +30,7 @@ int main(int argc, char** argv) {
     if (!load_theme()) return 1;
 
     demo::workshop shop;
+    demo::make_panel(shop);
     demo::make_notes_window(shop);
     demo::make_studio_window(shop);
     demo::make_settings_window(shop);

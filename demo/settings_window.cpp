@@ -91,6 +91,15 @@ GtkWidget* title_entry(panel& p) {
     return entry;
 }
 
+GtkWidget* toolbar_switch(panel& p) {
+    GtkWidget* button = gtk_switch_new();
+    gtk_widget_set_name(button, "toolbar");
+    gtk_switch_set_active(GTK_SWITCH(button), p.shop->toolbar != nullptr);
+    zo_ui_connect_switch_button_change_signal(
+        button, [&p](GtkSwitch* changed) { demo::show_toolbar(*p.shop, gtk_switch_get_active(changed)); });
+    return button;
+}
+
 GtkWidget* veto_switch(panel& p) {
     GtkWidget* button = gtk_switch_new();
     gtk_widget_set_name(button, "refuse-to-close");
@@ -108,6 +117,7 @@ void build_content(panel& p, const zo_window_ptr& window) {
     add(row_of("Title", title_entry(p)), 8);
     add(flag_list(p), 4);
     add(row_of("Refuse to close", veto_switch(p)), 3);
+    add(row_of("Toolbar on the panel", toolbar_switch(p)), 3);
     GtkWidget* apply = zo_ui_button_new_with_label("Open it again");
     gtk_widget_set_name(apply, "open-again");
     gtk_style_context_add_class(gtk_widget_get_style_context(apply), "suggested-action");

@@ -2,6 +2,7 @@
 #include "tour.hpp"
 
 #include "backdrop.hpp"
+#include "tour_panel.hpp"
 #include "tour_tools.hpp"
 
 #include <cstdio>
@@ -10,28 +11,7 @@
 
 namespace {
 
-using demo::workshop;
 using namespace demo::tour;
-
-// One visit: the windows, where the pictures go, and how many there are.
-struct visit {
-    workshop& shop;
-    std::string folder;
-    int pictures = 0;
-
-    void picture(const std::string& name) {
-        char number[12];
-        std::snprintf(number, sizeof number, "%02d", ++pictures);
-        const std::string file = folder + "/" + number + "-" + name + ".png";
-        photograph(file);
-        std::cout << file << std::endl;
-    }
-
-    void expect_logged(const std::string& window, const std::string& what) {
-        expect("the log says \"" + window + " " + what + "\"",
-               [&] { return shop.log.contains(window, what); });
-    }
-};
 
 void title_button(const std::string& id, const std::string& style_class) {
     click(widget_of_class(window_named(id), style_class));
@@ -65,18 +45,9 @@ void hint_and_back(visit& v) {
 
 void tool_menu(visit& v) {
     title_button("studio", "title-menu");
-    GtkWidget* menu = nullptr;
-    const auto is_menu = [&](GtkWidget* widget) {
-        return gtk_style_context_has_class(gtk_widget_get_style_context(widget), "tool-menu");
-    };
-    expect("the tool menu is on screen", [&] {
-        GList* all = gtk_window_list_toplevels();
-        menu = nullptr;
-        for (GList* item = all; item; item = item->next)
-            if (is_menu(GTK_WIDGET(item->data))) menu = GTK_WIDGET(item->data);
-        g_list_free(all);
-        return menu && is_on_screen(menu);
-    });
+    expect("the tool menu is on screen",
+           [] { return has_window_of_class("tool-menu") && is_on_screen(window_of_class("tool-menu")); });
+    GtkWidget* menu = window_of_class("tool-menu");
     GtkWidget* entry = button_labelled(menu, "More petals");
     point_at(entry);
     expect("the entry under the pointer lights up",
@@ -151,12 +122,26 @@ void leave(visit& v) {
 }
 
 void take(visit& v) {
-    for (const auto step : {three_windows, drag_by_the_title, hint_and_back, tool_menu, photo,
-                            flags_and_reopening, closing_and_refusing, hiding_and_restoring, leave})
+    for (const auto step :
+         {three_windows, drag_by_the_title, hint_and_back, tool_menu, photo, flags_and_reopening,
+          closing_and_refusing, hiding_and_restoring, panel_by_the_pointer, panel_lock, task_buttons,
+          panel_toolbar, panel_closed_and_opened, leave})
         step(v);
 }
 
 }  // namespace
+
+void demo::tour::visit::picture(const std::string& name) {
+    char number[12];
+    std::snprintf(number, sizeof number, "%02d", ++pictures);
+    const std::string file = folder + "/" + number + "-" + name + ".png";
+    photograph(file);
+    std::cout << file << std::endl;
+}
+
+void demo::tour::visit::expect_logged(const std::string& window, const std::string& what) {
+    expect("the log says \"" + window + " " + what + "\"", [&] { return shop.log.contains(window, what); });
+}
 
 void demo::schedule_tour(workshop& shop, const std::string& folder, int& result) {
     std::filesystem::create_directories(folder);

@@ -18,13 +18,24 @@ GtkWidget* find(GtkWidget* root, const std::function<bool(GtkWidget*)>& wanted) 
     return found;
 }
 
-GtkWidget* find_toplevel(const std::string& id) {
+GtkWidget* find_toplevel(const std::function<bool(GtkWidget*)>& wanted) {
     GList* all = gtk_window_list_toplevels();
     GtkWidget* found = nullptr;
     for (GList* item = all; item; item = item->next)
-        if (id == gtk_widget_get_name(GTK_WIDGET(item->data))) found = GTK_WIDGET(item->data);
+        if (wanted(GTK_WIDGET(item->data))) found = GTK_WIDGET(item->data);
     g_list_free(all);
     return found;
+}
+
+std::function<bool(GtkWidget*)> of_name(const std::string& name) {
+    return [name](GtkWidget* widget) { return name == gtk_widget_get_name(widget); };
+}
+
+std::function<bool(GtkWidget*)> of_class(const std::string& style_class) {
+    return [style_class](GtkWidget* widget) {
+        return gtk_style_context_has_class(gtk_widget_get_style_context(widget), style_class.c_str()) !=
+               FALSE;
+    };
 }
 
 GtkWidget* required(GtkWidget* widget, const std::string& what) {
@@ -87,20 +98,26 @@ void run(const std::vector<std::string>& command) {
     if (child.status != 0) throw failed_step("failed: " + command.front());
 }
 
-GtkWidget* window_named(const std::string& id) { return required(find_toplevel(id), "window " + id); }
+GtkWidget* window_named(const std::string& id) {
+    return required(find_toplevel(of_name(id)), "window " + id);
+}
 
-bool is_open(const std::string& id) { return find_toplevel(id) != nullptr; }
+GtkWidget* window_of_class(const std::string& style_class) {
+    return required(find_toplevel(of_class(style_class)), "window of class " + style_class);
+}
+
+bool is_open(const std::string& id) { return find_toplevel(of_name(id)) != nullptr; }
+
+bool has_window_of_class(const std::string& style_class) {
+    return find_toplevel(of_class(style_class)) != nullptr;
+}
 
 GtkWidget* widget_of_class(GtkWidget* root, const std::string& style_class) {
-    const auto wanted = [&](GtkWidget* widget) {
-        return gtk_style_context_has_class(gtk_widget_get_style_context(widget), style_class.c_str()) !=
-               FALSE;
-    };
-    return required(find(root, wanted), "class " + style_class);
+    return required(find(root, of_class(style_class)), "class " + style_class);
 }
 
 GtkWidget* widget_named(GtkWidget* root, const std::string& name) {
-    return required(find(root, [&](GtkWidget* widget) { return name == gtk_widget_get_name(widget); }), name);
+    return required(find(root, of_name(name)), name);
 }
 
 GtkWidget* button_labelled(GtkWidget* root, const std::string& label) {
@@ -124,6 +141,8 @@ place place_of(GtkWidget* toplevel) {
     const int scale = gtk_widget_get_scale_factor(toplevel);
     return {at.x * scale, at.y * scale};
 }
+
+void point_to(int x, int y) { run(move_to({x, y})); }
 
 void point_at(GtkWidget* widget) { run(move_to(middle_of(widget))); }
 

@@ -24,10 +24,12 @@ void run(const std::vector<std::string>& command);
 
 // Widgets of the window with this id. Throws when there is none.
 GtkWidget* window_named(const std::string& id);
+GtkWidget* window_of_class(const std::string& style_class);
 GtkWidget* widget_of_class(GtkWidget* root, const std::string& style_class);
 GtkWidget* widget_named(GtkWidget* root, const std::string& name);
 GtkWidget* button_labelled(GtkWidget* root, const std::string& label);
 bool is_open(const std::string& id);
+bool has_window_of_class(const std::string& style_class);
 bool is_on_screen(GtkWidget* widget);
 
 // A toplevel's place on the screen, device pixels.
@@ -41,6 +43,7 @@ place place_of(GtkWidget* toplevel);
 void click(GtkWidget* widget);
 void drag(GtkWidget* widget, int dx, int dy);
 void point_at(GtkWidget* widget);
+void point_to(int x, int y);
 void type(const std::string& text);
 
 // The whole screen as a PNG.

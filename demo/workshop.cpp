@@ -49,7 +49,12 @@ void demo::log_life_cycle(workshop& shop, const zo_window_ptr& window, const std
 }
 
 void demo::start(workshop& shop) {
-    for (const zo_window_ptr& window : {shop.notes, shop.studio, shop.settings}) appear(shop, window);
+    zo_window_manager_open(shop.panel);
+    zo_window_manager_show(shop.panel);
+    for (const zo_window_ptr& window : {shop.notes, shop.studio, shop.settings}) {
+        zo_window_set_window_manager(window, shop.panel);
+        appear(shop, window);
+    }
     zo_window_activate(shop.studio);
 }
 
@@ -60,8 +65,19 @@ void demo::reopen(workshop& shop, const zo_window_ptr& window) {
 }
 
 void demo::quit(workshop& shop) {
-    for (const zo_window_ptr& window : {shop.notes, shop.studio, shop.settings}) zo_window_destroy(window);
-    zo_system_service_exec([] { gtk_main_quit(); }, "demo", __LINE__);
+    zo_window_manager_close(shop.panel);
+    zo_window_manager_destroy(shop.panel);
+    // The panel's end posts that of its windows, so the loop's end is posted behind both.
+    const auto leave = [] { zo_system_service_exec([] { gtk_main_quit(); }, "demo", __LINE__); };
+    zo_window_manager_on_destroy(shop.panel, [leave](zo_window_manager_ptr) { leave(); });
+}
+
+void demo::summon(workshop& shop, const zo_window_ptr& window) {
+    bool opened = false;
+    zo_window_is_opened(window, &opened);
+    if (!opened) appear(shop, window);
+    zo_window_show(window);
+    zo_window_activate(window);
 }
 
 GtkWidget* demo::text_label(const std::string& markup) {

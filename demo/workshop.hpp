@@ -14,11 +14,13 @@ namespace demo {
 
 // The windows, and what one of them changes for the others.
 struct workshop {
+    zo_window_manager_ptr panel;
     zo_window_ptr notes;
     zo_window_ptr studio;
     zo_window_ptr settings;
     callback_log log;
     bool ask_before_closing = false;
+    GtkBox* toolbar = nullptr;  // null while the panel has none
     std::string photo_folder = ".";
     std::string notes_text =
         "Things to try\n\n"
@@ -29,6 +31,12 @@ struct workshop {
         "     and open the window again\n";
 };
 
+// Makes the panel: a launcher at the left, a clock at the right. Comes before the windows, which join it.
+void make_panel(workshop& shop);
+
+// Puts a toolbar under the panel's row, or takes it away.
+void show_toolbar(workshop& shop, bool on);
+
 // Each makes its window and sets its callbacks; nothing is on screen before start().
 void make_notes_window(workshop& shop);
 void make_studio_window(workshop& shop);
@@ -37,13 +45,16 @@ void make_settings_window(workshop& shop);
 // Logs what the library reports of the window.
 void log_life_cycle(workshop& shop, const zo_window_ptr& window, const std::string& name);
 
-// Opens and shows the three windows, each in its place on the work area.
+// Opens and shows the panel, and the three windows, each in its place on the work area.
 void start(workshop& shop);
 
 // Closes a window and opens it again in its place, so that changed flags take effect.
 void reopen(workshop& shop, const zo_window_ptr& window);
 
-// Ends the three windows and then the main loop.
+// Opens a window if it is closed, shows it if it is hidden, and activates it.
+void summon(workshop& shop, const zo_window_ptr& window);
+
+// Ends the panel with the three windows, and then the main loop.
 void quit(workshop& shop);
 
 // A label with Pango markup, aligned to the start.

@@ -3,6 +3,7 @@
 #include <zo_ui/zo_window/window_callbacks_p.hpp>
 
 #include <zo_core/zo_service.hpp>
+#include <zo_ui/zo_window/window_hold_p.hpp>
 
 namespace source = zo::window_source;
 
@@ -44,7 +45,7 @@ void _zo_window::take_tree_down() {
     const zo::window_widgets tree = std::exchange(widgets_, {});
     title_part_ = ads_part_ = content_part_ = {};
     fitting_.cancel();
-    kept_above_ = was_hidden_ = unmaximizing_ = centring_ = false;
+    kept_above_ = was_hidden_ = placed_ = unmaximizing_ = centring_ = false;
     if (zo_system_service_done()) return;
     for (GtkWidget* widget : {tree.window, tree.tool_menu})
         if (widget && !gtk_widget_in_destruction(widget)) gtk_widget_destroy(widget);
@@ -77,8 +78,8 @@ void _zo_window::_destroy() {
 }
 
 void _zo_window::request_close() {
-    GtkWidget* const window = widgets_.window;
+    const zo::held_widget window = zo::hold(widgets_.window);
     const auto fn = callback<bool(zo_window_ptr)>("window-close-request", source::title_action);
     const bool vetoed = fn && fn(handle());
-    if (!vetoed && still_open(window)) _close();
+    if (!vetoed && still_open(window.get())) _close();
 }

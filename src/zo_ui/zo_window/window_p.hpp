@@ -110,6 +110,7 @@ class _zo_window : public _zo_object {
     void connect_toplevel();
     void apply_fixed_classes();
     void keep_above();
+    void hide_in_place();
 
     // Handlers of the tree, window_tree_handlers.cpp.
     void on_toplevel_destroyed(GtkWidget* window);
@@ -160,6 +161,7 @@ class _zo_window : public _zo_object {
     bool managed_ = false;       // likewise
     bool kept_above_ = false;    // the present toplevel was told to stay above
     bool was_hidden_ = false;    // the present toplevel was hidden since it was last mapped
+    bool placed_ = false;        // the present toplevel was on screen since it was last hidden
     bool unmaximizing_ = false;  // we asked the desktop to take maximising back
     bool centring_ = false;      // the un-maximised size may still be on its way
     int centred_width_ = 0;      // the size it was centred for

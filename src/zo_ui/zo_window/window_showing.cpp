@@ -6,6 +6,7 @@
 
 #include <zo_core/zo_diagnostics.hpp>
 #include <zo_ui/zo_window/window_active_p.hpp>
+#include <zo_ui/zo_window/window_hold_p.hpp>
 
 namespace source = zo::window_source;
 
@@ -25,9 +26,9 @@ void _zo_window::_open() {
     set_opened(true);
     zo::normalise(settings);
     build_tree(settings);
-    GtkWidget* const window = widgets_.window;
+    const zo::held_widget window = zo::hold(widgets_.window);
     if (settings.on_open) settings.on_open(handle());
-    if (still_open(window)) tell_manager(&zo::window_host::on_window_open);
+    if (still_open(window.get())) tell_manager(&zo::window_host::on_window_open);
 }
 
 void _zo_window::_show() {
@@ -40,25 +41,35 @@ void _zo_window::_show() {
         guard.read("window-show", fn, {"&fn"});
     }
     set_visible(true);
-    GtkWidget* const window = widgets_.window;
+    const zo::held_widget window = zo::hold(widgets_.window);
     if (above) keep_above();
     if (fn) fn(handle());
-    if (!still_in(window, true)) return;
-    gtk_widget_show_all(window);
-    if (still_in(window, true) && widgets_.tool_menu) gtk_widget_show_all(widgets_.tool_menu);
-    if (still_in(window, true)) tell_manager(&zo::window_host::on_window_shown);
+    if (!still_in(window.get(), true)) return;
+    gtk_widget_show_all(window.get());
+    if (still_in(window.get(), true) && widgets_.tool_menu) gtk_widget_show_all(widgets_.tool_menu);
+    if (still_in(window.get(), true)) tell_manager(&zo::window_host::on_window_shown);
 }
 
 void _zo_window::_hide() {
     if (!is_opened() || is_destroyed() || !is_visible()) return;
     const auto fn = callback<void(zo_window_ptr)>("window-hide", source::hide_task);
     set_visible(false);
-    GtkWidget* const window = widgets_.window;
+    const zo::held_widget window = zo::hold(widgets_.window);
     was_hidden_ = true;
-    if (window) gtk_widget_hide(window);
+    if (window) hide_in_place();
     if (widgets_.tool_menu) gtk_widget_hide(widgets_.tool_menu);
     if (fn) fn(handle());
-    if (still_in(window, false)) tell_manager(&zo::window_host::on_window_hidden);
+    if (still_in(window.get(), false)) tell_manager(&zo::window_host::on_window_hidden);
+}
+
+// GTK would centre the window anew when it is shown again. Where it is nobody knows before it was on screen.
+void _zo_window::hide_in_place() {
+    auto* window = GTK_WINDOW(widgets_.window);
+    int x = 0;
+    int y = 0;
+    gtk_window_get_position(window, &x, &y);
+    gtk_widget_hide(widgets_.window);
+    if (std::exchange(placed_, false)) gtk_window_move(window, x, y);
 }
 
 void _zo_window::_activate() {
@@ -70,14 +81,14 @@ void _zo_window::_activate() {
         guard.read("keep-above", above, {"&keep_above"});
         guard.read("window-activate", fn, {"&fn"});
     }
-    GtkWidget* const window = widgets_.window;
+    const zo::held_widget window = zo::hold(widgets_.window);
     if (!window) return;
     if (above) keep_above();
-    gtk_window_present(GTK_WINDOW(window));
-    gtk_widget_grab_focus(window);
-    if (!still_in(window, true)) return;
-    zo::mark_active(window);
-    if (GdkWindow* native = gtk_widget_get_window(window)) gdk_window_ensure_native(native);
+    gtk_window_present(GTK_WINDOW(window.get()));
+    gtk_widget_grab_focus(window.get());
+    if (!still_in(window.get(), true)) return;
+    zo::mark_active(window.get());
+    if (GdkWindow* native = gtk_widget_get_window(window.get())) gdk_window_ensure_native(native);
     if (fn) fn(handle());
 }
 

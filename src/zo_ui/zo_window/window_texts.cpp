@@ -5,6 +5,7 @@
 #include <zo_core/zo_diagnostics_p.hpp>
 #include <zo_core/zo_service.hpp>
 #include <zo_ui/toolkit/style_p.hpp>
+#include <zo_ui/zo_window/window_hold_p.hpp>
 
 namespace {
 
@@ -47,11 +48,11 @@ void _zo_window::on_text_changed(const zo::window_text& text, const std::string&
                                  const std::string& changed) {
     const auto fn = callback<void(zo_window_ptr, std::string)>(text.change_callback, source::text_task);
     if (old == changed) return;
-    GtkWidget* const window = widgets_.window;
+    const zo::held_widget window = zo::hold(widgets_.window);
     const bool follows = is_opened() && window;
     if (follows) (this->*text.apply)(old, changed);
     if (fn) fn(handle(), changed);
-    if (text.told_to_manager && follows && still_open(window))
+    if (text.told_to_manager && follows && still_open(window.get()))
         tell_manager(&zo::window_host::on_window_title);
 }
 

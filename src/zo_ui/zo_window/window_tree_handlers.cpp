@@ -174,6 +174,7 @@ void _zo_window::on_configured(const GdkEventConfigure& event) {
 // A desktop that sees a window go and come back at once takes the hints away that GTK set in between. When
 // the window is back, it is asked for them again.
 void _zo_window::on_mapped() {
+    placed_ = true;
     if (!std::exchange(was_hidden_, false) || !widgets_.window) return;
     auto* window = GTK_WINDOW(widgets_.window);
     GdkWindow* native = gtk_widget_get_window(widgets_.window);

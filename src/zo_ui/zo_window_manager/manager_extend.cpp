@@ -46,12 +46,12 @@ void _zo_window_manager::shape_input() {
 }
 
 void _zo_window_manager::extend_now() {
-    if (!is_opened() || widgets_.y == zo_ui_screen_y()) return;
+    if (!is_opened() || !widgets_.window || widgets_.y == zo_ui_screen_y()) return;
     move_panel(zo_ui_screen_y());
 }
 
 void _zo_window_manager::retract_now() {
-    if (!is_opened() || widgets_.y != zo_ui_screen_y()) return;
+    if (!is_opened() || !widgets_.window || widgets_.y != zo_ui_screen_y()) return;
     const int y = zo_ui_screen_y() - panel_height() + 1;
     if (y != widgets_.y) move_panel(y);
 }
@@ -96,7 +96,7 @@ void _zo_window_manager::set_keep_extended(bool keep) {
 // The panel does not move: the next crossing decides.
 void _zo_window_manager::apply_keep_extended(bool keep) {
     widgets_.keep_extended = keep;
-    if (is_opened() && widgets_.lock_button) style_lock_button(keep);
+    if (is_opened() && widgets_.window && widgets_.lock_button) style_lock_button(keep);
 }
 
 void _zo_window_manager::on_lock_clicked() {

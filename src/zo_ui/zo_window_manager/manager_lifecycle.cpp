@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Opening, showing, hiding, closing and destroying. Loops run over copies that hold what they walk, and the
 // manager holds itself: what it calls may change everything.
+// The flags are properties that the application can write: "manager-opened" promises no panel.
 #include <zo_ui/zo_window_manager/manager_p.hpp>
 
 #include <zo_core/zo_diagnostics.hpp>
@@ -24,7 +25,7 @@ void _zo_window_manager::open_now() {
 }
 
 void _zo_window_manager::show_now() {
-    if (!is_opened() || is_destroyed() || is_visible()) return;
+    if (!is_opened() || is_destroyed() || is_visible() || !widgets_.window) return;
     const zo_window_manager_ptr self = handle();
     const callback_function fn = callback("manager-show", source::show_task);
     set_visible(true);
@@ -40,7 +41,7 @@ void _zo_window_manager::show_now() {
 }
 
 void _zo_window_manager::hide_now() {
-    if (!is_opened() || is_destroyed() || !is_visible()) return;
+    if (!is_opened() || is_destroyed() || !is_visible() || !widgets_.window) return;
     const zo_window_manager_ptr self = handle();
     const callback_function fn = callback("manager-hide", source::hide_task);
     set_visible(false);

@@ -44,7 +44,7 @@ void _zo_window_manager::on_window_open(zo_window_ptr window) {
     if (!registered_windows_.contains(window)) return;
     shown_windows_.remove(window);
     shown_windows_.add(window);
-    if (is_opened()) open_task_buttons(window);
+    if (is_opened() && widgets_.window) open_task_buttons(window);
 }
 
 // A window of a panel that is closed does not stay on screen.

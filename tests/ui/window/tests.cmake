@@ -3,3 +3,4 @@ zo_test(window_hints_test FILES ui/window/window_hints_test.cpp LIBRARIES ui_sup
   SESSIONS openbox metacity none)
 include(ui/window/tree_tests.cmake)
 include(ui/window/lifecycle_tests.cmake)
+zo_ui_test(window/window_place_test)
