@@ -3,6 +3,7 @@ foreach(name defaults flags null_handles casting callbacks texts events content_
         lifecycle)
   zo_ui_test(window/window_${name}_test)
 endforeach()
-foreach(name order slots table reports wrong_type posts destroy manager_link)
+foreach(name order slots table reports wrong_type posts destroy manager_link reentry
+        reopening)
   zo_ui_inner_test(window/window_${name}_test)
 endforeach()
