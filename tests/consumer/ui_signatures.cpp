@@ -14,6 +14,9 @@ void check_1() {
     check<bool(zo_object_ptr)>(zo_is_window_event);
     check<zo_object_ptr(zo_window_event_ptr)>(zo_window_event_to_object);
     check<zo_window_event_ptr(zo_object_ptr)>(zo_window_event_from_object);
+    check<bool(zo_object_ptr)>(zo_is_window_manager);
+    check<zo_object_ptr(zo_window_manager_ptr)>(zo_window_manager_to_object);
+    check<zo_window_manager_ptr(zo_object_ptr)>(zo_window_manager_from_object);
     check<zo_window_event_ptr(int)>(zo_window_event_new);
     check<zo_window_ptr(std::string)>(zo_window_new);
     check<bool(zo_window_ptr)>(zo_window_get_managed_window);
@@ -50,12 +53,12 @@ void check_1() {
     check<bool(zo_window_ptr, bool)>(zo_window_set_enable_title_close);
     check<bool(zo_window_ptr)>(zo_window_get_enable_title_minimize);
     check<bool(zo_window_ptr, bool)>(zo_window_set_enable_title_minimize);
-    check<bool(zo_window_ptr)>(zo_window_get_enable_content_ads);
-    check<bool(zo_window_ptr, bool)>(zo_window_set_enable_content_ads);
-    check<bool(zo_window_ptr)>(zo_window_get_use_scroll);
 }
 
 void check_2() {
+    check<bool(zo_window_ptr)>(zo_window_get_enable_content_ads);
+    check<bool(zo_window_ptr, bool)>(zo_window_set_enable_content_ads);
+    check<bool(zo_window_ptr)>(zo_window_get_use_scroll);
     check<bool(zo_window_ptr, bool)>(zo_window_set_use_scroll);
     check<bool(zo_window_ptr, std::string)>(zo_window_get_bool_property);
     check<bool(zo_window_ptr, std::string, bool)>(zo_window_set_bool_property);
@@ -107,12 +110,41 @@ void check_2() {
     check<bool(zo_window_ptr)>(zo_window_destroy);
     check<bool(zo_window_ptr)>(zo_window_save);
     check<bool(zo_window_ptr, int, int)>(zo_window_move);
-    check<bool(zo_window_ptr, zo_window_event_ptr)>(zo_window_push_event);
-    check<bool(zo_window_ptr, std::string, int)>(zo_window_destroy);
-    check<bool(GtkWidget*, std::function<void(GtkWidget*)>)>(zo_ui_connect_button_click_signal);
 }
 
 void check_3() {
+    check<bool(zo_window_ptr, zo_window_event_ptr)>(zo_window_push_event);
+    check<bool(zo_window_ptr, std::string, int)>(zo_window_destroy);
+    check<zo_window_manager_ptr(std::string)>(zo_window_manager_new);
+    check<bool(zo_window_manager_ptr)>(zo_window_manager_open);
+    check<bool(zo_window_manager_ptr)>(zo_window_manager_show);
+    check<bool(zo_window_manager_ptr)>(zo_window_manager_hide);
+    check<bool(zo_window_manager_ptr)>(zo_window_manager_close);
+    check<bool(zo_window_manager_ptr)>(zo_window_manager_destroy);
+    check<bool(zo_window_manager_ptr)>(zo_window_manager_extend);
+    check<bool(zo_window_manager_ptr)>(zo_window_manager_retract);
+    check<bool(zo_window_manager_ptr, std::string, int)>(zo_window_manager_destroy);
+    check<bool(zo_window_manager_ptr, bool*)>(zo_window_manager_is_opened);
+    check<bool(zo_window_manager_ptr, bool*)>(zo_window_manager_is_visible);
+    check<bool(zo_window_manager_ptr, bool*)>(zo_window_manager_is_destroyed);
+    check<bool(zo_window_manager_ptr)>(zo_window_manager_get_keep_extended);
+    check<bool(zo_window_manager_ptr, bool)>(zo_window_manager_set_keep_extended);
+    check<bool(zo_window_manager_ptr, GtkWidget*)>(zo_window_manager_add_widget_left);
+    check<bool(zo_window_manager_ptr, GtkWidget*)>(zo_window_manager_remove_widget_left);
+    check<bool(zo_window_manager_ptr, GtkWidget*)>(zo_window_manager_add_widget_right);
+    check<bool(zo_window_manager_ptr, GtkWidget*)>(zo_window_manager_remove_widget_right);
+    check<bool(zo_window_manager_ptr, GtkBox*)>(zo_window_manager_add_toolbar);
+    check<bool(zo_window_manager_ptr, GtkBox*)>(zo_window_manager_remove_toolbar);
+    check<bool(zo_window_manager_ptr, std::map<unsigned long, GtkWidget*>**)>(
+        zo_window_manager_get_local_notification_container);
+    check<bool(zo_window_manager_ptr, std::function<void(zo_window_manager_ptr)>)>(zo_window_manager_on_open);
+    check<bool(zo_window_manager_ptr, std::function<void(zo_window_manager_ptr)>)>(zo_window_manager_on_show);
+    check<bool(zo_window_manager_ptr, std::function<void(zo_window_manager_ptr)>)>(zo_window_manager_on_hide);
+    check<bool(zo_window_manager_ptr, std::function<void(zo_window_manager_ptr)>)>(
+        zo_window_manager_on_close);
+    check<bool(zo_window_manager_ptr, std::function<void(zo_window_manager_ptr)>)>(
+        zo_window_manager_on_destroy);
+    check<bool(GtkWidget*, std::function<void(GtkWidget*)>)>(zo_ui_connect_button_click_signal);
     check<bool(GtkWidget*, std::function<void(GtkToggleButton*)>)>(zo_ui_connect_toogle_click_signal);
     check<bool(GtkWidget*, std::function<void(GtkComboBox*)>)>(
         zo_ui_connect_combobox_selection_change_signal);
@@ -134,6 +166,9 @@ void check_3() {
     check<int()>(zo_ui_screen_x);
     check<int()>(zo_ui_screen_y);
     check<int()>(zo_ui_screen_width);
+}
+
+void check_4() {
     check<int()>(zo_ui_screen_height);
     check<int()>(zo_ui_workarea_x);
     check<int()>(zo_ui_workarea_y);
@@ -163,9 +198,8 @@ void check_3() {
     check<std::string()>(zo_theme_get_theme_path);
     check<std::string()>(zo_theme_get_theme_name);
     check<void(std::string, GError*&)>(zo_theme_use_theme);
+    check<void(std::string, GError*&)>(zo_theme_add_css_permanent);
 }
-
-void check_4() { check<void(std::string, GError*&)>(zo_theme_add_css_permanent); }
 
 }  // namespace
 
