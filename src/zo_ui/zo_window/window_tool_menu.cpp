@@ -5,18 +5,12 @@
 #include <zo_ui/toolkit/style_p.hpp>
 #include <zo_ui/zo_ui_connect.hpp>
 #include <zo_ui/zo_ui_widgets.hpp>
-
-#include <memory>
+#include <zo_ui/zo_window/window_hold_p.hpp>
 
 namespace {
 
 // How far the menu's left edge stands left of its button's.
 constexpr int overhang = 32;
-
-struct widget_unref {
-    void operator()(GtkWidget* widget) const { g_object_unref(widget); }
-};
-using owned_widget = std::unique_ptr<GtkWidget, widget_unref>;
 
 }  // namespace
 
@@ -36,26 +30,26 @@ struct zo::tool_menu_handlers {
         return window->on_tool_menu_key(*event);
     }
 
-    // A button that spans rows is met in each of them.
+    // A button that spans rows is met in each of them. The application's own handlers come first, since
+    // closing the menu takes the button away.
     static void bind(GtkWidget* child, _zo_window* window) {
         if (!GTK_IS_BUTTON(child)) return;
         add_class(child, "tool-menu-button");
         const auto match = static_cast<GSignalMatchType>(G_SIGNAL_MATCH_FUNC | G_SIGNAL_MATCH_DATA);
         const auto function = reinterpret_cast<gpointer>(on_click);
         if (!g_signal_handler_find(child, match, 0, 0, nullptr, function, window))
-            g_signal_connect(child, "clicked", G_CALLBACK(on_click), window);
+            g_signal_connect_after(child, "clicked", G_CALLBACK(on_click), window);
     }
 };
 
 void _zo_window::on_menu_clicked() {
     const auto fn = callback<void(zo_window_ptr, GtkGrid*)>("menu-create", zo::window_source::menu_action);
-    GtkWidget* const window = widgets_.window;
+    const zo::held_widget window = zo::hold(widgets_.window);
     if (!fn || !window) return;
-    const owned_widget held(GTK_WIDGET(g_object_ref(window)));  // no later window gets its address
-    const owned_widget grid(GTK_WIDGET(g_object_ref_sink(gtk_grid_new())));
+    const zo::held_widget grid(GTK_WIDGET(g_object_ref_sink(gtk_grid_new())));
     zo::add_class(grid.get(), "tool-menu-grid");
     fn(handle(), GTK_GRID(grid.get()));
-    if (!still_in(window, true) || !widgets_.button(zo::title_button::menu)) return;
+    if (!still_in(window.get(), true) || !widgets_.button(zo::title_button::menu)) return;
     close_tool_menu();
     open_tool_menu(grid.get());
 }
@@ -111,9 +105,11 @@ void _zo_window::close_tool_menu() {
     if (GtkWidget* menu = std::exchange(widgets_.tool_menu, nullptr)) gtk_widget_destroy(menu);
 }
 
-// Going into a child, and a grab that takes the pointer away, are not leaving.
+// Going into a child, a grab that takes the pointer away, and the menu's own hiding are not leaving.
 bool _zo_window::on_tool_menu_left(const GdkEventCrossing& event) {
-    if (event.detail == GDK_NOTIFY_INFERIOR || event.mode == GDK_CROSSING_GRAB) return false;
+    const bool grabbed = event.mode == GDK_CROSSING_GRAB || event.mode == GDK_CROSSING_GTK_GRAB;
+    if (event.detail == GDK_NOTIFY_INFERIOR || grabbed) return false;
+    if (!widgets_.tool_menu || !gtk_widget_get_visible(widgets_.tool_menu)) return false;
     close_tool_menu();
     return true;
 }
