@@ -40,15 +40,23 @@ void _zo_window::_close() {
 }
 
 // Everything is forgotten before anything is destroyed: the application's "destroy" handlers find a closed
-// window, and may open it again. When the service is done the toolkit is going away with the widgets.
+// window, and may open it again. When the service is done the toolkit is going away with the widgets: what is
+// still on screen then tells nothing to a window that forgot it.
 void _zo_window::take_tree_down() {
     const zo::window_widgets tree = std::exchange(widgets_, {});
+    // The application's handlers of the first may destroy the second.
+    const zo::held_widget held[] = {zo::hold(tree.window), zo::hold(tree.tool_menu)};
     title_part_ = ads_part_ = content_part_ = {};
     fitting_.cancel();
     kept_above_ = was_hidden_ = placed_ = unmaximizing_ = centring_ = false;
-    if (zo_system_service_done()) return;
-    for (GtkWidget* widget : {tree.window, tree.tool_menu})
-        if (widget && !gtk_widget_in_destruction(widget)) gtk_widget_destroy(widget);
+    if (zo_system_service_done()) {
+        for (GtkWidget* widget : {tree.window, tree.title_event_box, tree.title_box, tree.ads_container,
+                                  tree.content_event_box, tree.content_box, tree.tool_menu})
+            if (widget) g_signal_handlers_disconnect_by_data(widget, this);
+        return;
+    }
+    for (const zo::held_widget& widget : held)
+        if (widget && !gtk_widget_in_destruction(widget.get())) gtk_widget_destroy(widget.get());
 }
 
 void _zo_window::_destroy() {
