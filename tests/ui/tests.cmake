@@ -23,3 +23,4 @@ endfunction()
 
 include(ui/window/tests.cmake)
 include(ui/toolkit/tests.cmake)
+include(ui/window_manager/tests.cmake)

@@ -20,10 +20,9 @@ void write_state(_zo_window_manager& manager, const char* name, bool b) {
     guard.write(name, b, {"b"});
 }
 
-// The out pointer comes first, as with windows.
 bool answer(const zo_window_manager_ptr& manager, bool* value, const char* function,
             bool (_zo_window_manager::*state)()) {
-    if (!value || zo::refuse_null(manager, function)) return false;
+    if (zo::refuse_null(manager, function) || !value) return false;
     *value = (manager.get()->*state)();
     return true;
 }

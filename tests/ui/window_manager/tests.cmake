@@ -1,0 +1,22 @@
+# The panel.
+add_library(panel_support STATIC ui/window_manager/panel.cpp)
+target_link_libraries(panel_support PUBLIC ui_support)
+
+# zo_panel_test(name...), zo_panel_inner_test(name...): like zo_ui_test and zo_ui_inner_test, with panel.hpp.
+function(zo_panel_test)
+  foreach(name ${ARGN})
+    zo_ui_test(window_manager/${name})
+    target_link_libraries(${name} PRIVATE panel_support)
+  endforeach()
+endfunction()
+function(zo_panel_inner_test)
+  foreach(name ${ARGN})
+    zo_ui_inner_test(window_manager/${name})
+    target_link_libraries(${name} PRIVATE panel_support)
+  endforeach()
+endfunction()
+
+
+zo_panel_test(manager_null_handles_test manager_lifecycle_test manager_destroy_test manager_layout_test
+  manager_slots_test)
+zo_panel_inner_test(manager_table_test manager_table_order_test manager_slot_order_test manager_lock_test)
