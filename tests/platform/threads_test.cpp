@@ -43,8 +43,7 @@ void ask_for_dying_windows(const std::atomic<bool>& stop, std::atomic<int>& wron
         owner.set_text(window, "WM_NAME", "STRING", "name");
         owner.set_text(window, "WM_CLASS", "STRING", std::string("a\0B\0", 4));
         owner.set_longs(window, "_NET_WM_PID", "CARDINAL", {4711});
-        XDestroyWindow(owner, window);
-        XFlush(owner);
+        owner.destroy_soon(window);
         wrong += !ask_about(asking, window);
         wrong += !ask_about(asking, window);
     }

@@ -100,12 +100,16 @@ int main(int argc, char** argv) {
     }
     Display* display = XOpenDisplay(nullptr);
     if (!display) return 2;
-    std::printf("%lu\n", make(display));
+    const Window window = make(display);
+    std::printf("%lu\n", window);
     std::fflush(stdout);
     if (has("restless"))
         be_restless(display);
     else
         while (!input_has_ended(-1)) {
         }
+    // Whoever waits for this process finds its window gone.
+    XDestroyWindow(display, window);
+    XSync(display, False);
     XCloseDisplay(display);
 }

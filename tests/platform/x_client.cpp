@@ -25,11 +25,17 @@ int on_request(Display*) {
 }  // namespace
 
 test::x_client::~x_client() {
-    if (display_) XCloseDisplay(display_);
+    if (!display_) return;
+    for (const Window window : tops_) XDestroyWindow(display_, window);
+    XSelectInput(display_, root(), NoEventMask);
+    XSync(display_, False);
+    XCloseDisplay(display_);
 }
 
 Window test::x_client::make(Window parent) {
-    const Window window = XCreateSimpleWindow(display_, parent ? parent : root(), 10, 10, 80, 60, 0, 0, 0);
+    const bool is_top = parent == 0 || parent == root();
+    const Window window = XCreateSimpleWindow(display_, is_top ? root() : parent, 10, 10, 80, 60, 0, 0, 0);
+    if (is_top) tops_.push_back(window);
     XSync(display_, False);
     return window;
 }
@@ -54,8 +60,14 @@ Window test::x_client::make_dead() {
 }
 
 void test::x_client::destroy(Window window) {
-    XDestroyWindow(display_, window);
+    destroy_soon(window);
     XSync(display_, False);
+}
+
+void test::x_client::destroy_soon(Window window) {
+    std::erase(tops_, window);
+    XDestroyWindow(display_, window);
+    XFlush(display_);
 }
 
 void test::x_client::focus(Window window) {

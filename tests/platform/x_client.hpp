@@ -15,6 +15,8 @@ namespace test {
 class x_client {
   public:
     explicit x_client(const char* name = nullptr) : display_(XOpenDisplay(name)) {}
+    // The server has forgotten everything of the test when this is done, which closing alone would not wait
+    // for.
     ~x_client();
     x_client(const x_client&) = delete;
     x_client& operator=(const x_client&) = delete;
@@ -28,6 +30,7 @@ class x_client {
     Window make_client(Window parent);  // viewable, with the window manager's state
     Window make_dead();
     void destroy(Window window);
+    void destroy_soon(Window window);  // except this one, which only sends it
     void focus(Window window);
     void set_text(Window window, const char* property, const char* type, const std::string& bytes);
     void set_longs(Window window, const char* property, const char* type, const std::vector<long>& values);
@@ -36,6 +39,7 @@ class x_client {
 
   private:
     Display* display_;
+    std::vector<Window> tops_;
 };
 
 // While this lives, errors that reach the process's error handler are counted.
