@@ -7,6 +7,7 @@
 #include <zo_ui/zo_ui_screen.hpp>
 
 #include <memory>
+#include <utility>
 
 namespace source = zo::manager_source;
 
@@ -30,8 +31,15 @@ int _zo_window_manager::panel_height() const {
 void _zo_window_manager::move_panel(int y) {
     widgets_.x = zo_ui_screen_x();
     widgets_.y = y;
-    gtk_window_move(GTK_WINDOW(widgets_.window), widgets_.x, widgets_.y);
+    place_panel();
     shape_input();
+}
+
+// GTK does not move a hidden window back to where it was first mapped (test "ItMovesWhileItIsHidden").
+void _zo_window_manager::place_panel() {
+    gtk_window_move(GTK_WINDOW(widgets_.window), widgets_.x, widgets_.y);
+    GdkWindow* const native = gtk_widget_get_window(widgets_.window);
+    if (native && !gtk_widget_get_mapped(widgets_.window)) gdk_window_move(native, widgets_.x, widgets_.y);
 }
 
 // A retracted panel takes the pointer in its last row only: what it covers of a monitor above stays the
@@ -58,6 +66,7 @@ void _zo_window_manager::retract_now() {
 
 // Decides by where the panel is, not by what was noted.
 int _zo_window_manager::on_crossing(const GdkEventCrossing& event) {
+    if (!widgets_.window) return TRUE;
     int y = 0;
     int height = 0;
     gtk_window_get_position(GTK_WINDOW(widgets_.window), nullptr, &y);
@@ -69,17 +78,25 @@ int _zo_window_manager::on_crossing(const GdkEventCrossing& event) {
     return TRUE;
 }
 
-// A menu of the panel takes the pointer's leaving away. When it goes and the pointer is below, the panel goes
-// too.
-void _zo_window_manager::on_grab_ended() {
-    if (!widgets_.window || !gtk_widget_get_mapped(widgets_.window)) return;
-    GdkDevice* pointer =
-        gdk_seat_get_pointer(gdk_display_get_default_seat(gtk_widget_get_display(widgets_.window)));
+int _zo_window_manager::pointer_y() const {
+    GdkSeat* seat = gdk_display_get_default_seat(gtk_widget_get_display(widgets_.window));
     int y = 0;
-    gdk_device_get_position(pointer, nullptr, nullptr, &y);
+    gdk_device_get_position(gdk_seat_get_pointer(seat), nullptr, nullptr, &y);
+    return y;
+}
+
+// A menu of the panel takes the pointer's leaving away. When it goes and the pointer is below, the panel goes
+// too. A menu that was opened elsewhere takes nothing away (test "AMenuOfAWindowLeavesThePanelAlone").
+void _zo_window_manager::on_grab_begun() {
+    grabbed_inside_ = widgets_.window && pointer_y() < widgets_.y + panel_height();
+}
+
+void _zo_window_manager::on_grab_ended() {
+    if (!std::exchange(grabbed_inside_, false)) return;
+    if (!widgets_.window || !gtk_widget_get_mapped(widgets_.window)) return;
     GdkEventCrossing event{};
     event.type = GDK_LEAVE_NOTIFY;
-    event.y_root = y;
+    event.y_root = pointer_y();
     crossing_handler_(widgets_.event_box, &event);
 }
 
@@ -106,5 +123,5 @@ void _zo_window_manager::on_lock_clicked() {
         zo::property_guard guard(*this, source::file, source::lock_clicked);
         guard.write("manager-keep-extended", keep, {"widgets.keep_extended"});
     }
-    style_lock_button(widgets_.keep_extended);
+    if (widgets_.window) style_lock_button(widgets_.keep_extended);
 }

@@ -22,6 +22,7 @@ struct zo::panel_handlers {
 
     static void on_center(GtkWidget*, GtkAllocation* allocation, _zo_window_manager* manager) {
         manager->widgets_.center = part_of(*allocation);
+        manager->scroll_to_newest();
     }
 
     static void on_right(GtkWidget*, GtkAllocation* allocation, _zo_window_manager* manager) {
@@ -39,7 +40,10 @@ struct zo::panel_handlers {
 
     static void on_grab(GtkWidget*, gboolean ended, _zo_window_manager* manager) {
         const zo_window_manager_ptr self = manager->handle();
-        if (ended) manager->on_grab_ended();
+        if (ended)
+            manager->on_grab_ended();
+        else
+            manager->on_grab_begun();
     }
 
     static void on_lock(GtkWidget* button, _zo_window_manager* manager) {
@@ -64,20 +68,23 @@ void _zo_window_manager::connect_panel() {
     connect(widgets_.lock_button, "clicked", G_CALLBACK(panel_handlers::on_lock));
 }
 
+// When the service is done, a closed panel stays on screen: the handlers find it forgotten.
+
 // Keeps exactly one pixel row of a retracted panel on screen when its height changes.
 void _zo_window_manager::on_panel_allocated(const GtkAllocation& allocation) {
+    if (!widgets_.window) return;
     const int previous_y = widgets_.y;
     const int previous_height = widgets_.panel.height;
     widgets_.panel = part_of(allocation);
     if (widgets_.y == zo_ui_screen_y()) return;
     widgets_.x = zo_ui_screen_x();
     widgets_.y = zo_ui_screen_y() - allocation.height + 1;
-    if (widgets_.y != previous_y || previous_height > allocation.height)
-        gtk_window_move(GTK_WINDOW(widgets_.window), widgets_.x, widgets_.y);
+    if (widgets_.y != previous_y || previous_height > allocation.height) place_panel();
     shape_input();
 }
 
 void _zo_window_manager::on_right_allocated(const GtkAllocation& allocation) {
+    if (!widgets_.window) return;
     widgets_.right = part_of(allocation);
     if (gtk_widget_get_mapped(widgets_.window))
         fitting_.ask([this] { fit_scroller(); });

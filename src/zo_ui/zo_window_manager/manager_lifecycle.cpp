@@ -125,6 +125,7 @@ void _zo_window_manager::forget_panel() {
     kept.x = widgets_.x;
     kept.y = widgets_.y;
     widgets_ = kept;
+    newest_task_ = nullptr;
     forget_tasks();
     fitting_.cancel();
     scrolling_.cancel();

@@ -134,8 +134,11 @@ class _zo_window_manager : public _zo_object, public zo::window_host {
     // Sliding, manager_extend.cpp.
     int panel_height() const;
     void move_panel(int y);
+    void place_panel();
     void shape_input();
     int on_crossing(const GdkEventCrossing& event);
+    int pointer_y() const;
+    void on_grab_begun();
     void on_grab_ended();
     void on_lock_clicked();
     void apply_keep_extended(bool keep);
@@ -145,6 +148,7 @@ class _zo_window_manager : public _zo_object, public zo::window_host {
     bool remove_from_region(GtkWidget* region, GtkWidget* widget);
 
     // Task buttons, manager_task_buttons.cpp.
+    void let_go_of(GtkWidget* task);
     void forget_tasks();
     void open_task_buttons_of_all();
     void open_task_buttons(const zo_window_ptr& window);
@@ -154,7 +158,7 @@ class _zo_window_manager : public _zo_object, public zo::window_host {
     void pack_task(GtkWidget* button, zo::task_role role, const zo_window_ptr& window);
     bool is_task(GtkWidget* widget, zo::task_role role, const zo_window_ptr& window) const;
     void set_task_opacity(const zo_window_ptr& window, double opacity);
-    void scroll_to(GtkWidget* button);
+    void scroll_to_newest();
     void let_go_when_done();
 
     zo::panel_widgets widgets_;
@@ -167,9 +171,11 @@ class _zo_window_manager : public _zo_object, public zo::window_host {
 
     // The task widgets that live, and whose they are: a pointer remembered in a window may be stale.
     zo::task_map tasks_;
+    GtkWidget* newest_task_ = nullptr;  // until it is scrolled into view
     zo::layout_idle fitting_;
     zo::layout_idle scrolling_;
-    bool destroying_ = false;  // destroy_now has begun
+    bool grabbed_inside_ = false;  // a grab runs that began with the pointer in the panel
+    bool destroying_ = false;      // destroy_now has begun
 };
 
 namespace zo {

@@ -18,7 +18,9 @@ void _zo_window_manager::connect_window(zo_window_ptr window) {
     zo::join_task(window);
     if (window->is_reffed()) zo_object_unref_real(window);
     // One that is open already gets what it would have got.
-    if (window->is_opened()) on_window_open(window);
+    if (!window->is_opened()) return;
+    on_window_open(window);
+    if (!window->is_visible()) on_window_hidden(window);
 }
 
 void _zo_window_manager::disconnect_window(zo_window_ptr window) {
@@ -29,6 +31,7 @@ void _zo_window_manager::disconnect_window(zo_window_ptr window) {
     // The button itself goes, its padding stays in the row (test "LeavingLeavesThePaddingInTheRow").
     const auto take_out = [&](GtkWidget* button, zo::task_role role) {
         if (!is_opened() || !is_task(button, role, window)) return;
+        let_go_of(button);
         gtk_container_remove(GTK_CONTAINER(gtk_widget_get_parent(button)), button);
     };
     take_out(task.button, zo::task_role::button);
@@ -64,6 +67,7 @@ void _zo_window_manager::on_window_close(zo_window_ptr window) {
     const zo::task task = zo::read_task(window);
     const auto drop = [&](GtkWidget* button, zo::task_role role) {
         if (!is_opened() || !is_task(button, role, window)) return;
+        let_go_of(button);
         gtk_container_remove(GTK_CONTAINER(widgets_.taskbox_center), gtk_widget_get_parent(button));
     };
     drop(task.button, zo::task_role::button);

@@ -55,9 +55,18 @@ bool _zo_window_manager::is_task(GtkWidget* widget, zo::task_role role, const zo
            place->second == std::pair<const _zo_window*, zo::task_role>(window.get(), role);
 }
 
+// Somebody may hold a button that has left the row, and click it when its handler is gone.
+void _zo_window_manager::let_go_of(GtkWidget* task) {
+    g_signal_handlers_disconnect_matched(task, G_SIGNAL_MATCH_FUNC, 0, 0, nullptr,
+                                         reinterpret_cast<gpointer>(on_task_clicked), nullptr);
+}
+
 // The widgets may outlive the manager now.
 void _zo_window_manager::forget_tasks() {
-    for (const auto& [widget, owner] : tasks_) g_signal_handlers_disconnect_by_data(widget, &tasks_);
+    for (const auto& [widget, owner] : tasks_) {
+        g_signal_handlers_disconnect_by_data(widget, &tasks_);
+        let_go_of(widget);
+    }
     tasks_.clear();
 }
 
@@ -80,7 +89,7 @@ void _zo_window_manager::open_task_buttons(const zo_window_ptr& window) {
     GtkWidget* button = make_task_button(window, text.title, task.click);
     zo::write_task_button(window, button);
     if (!text.id.empty()) gtk_widget_set_name(button, text.id.c_str());
-    scroll_to(button);
+    newest_task_ = button;
 }
 
 GtkWidget* _zo_window_manager::make_close_button(const zo_window_ptr& window, const std::string& title) {
@@ -124,10 +133,11 @@ void _zo_window_manager::on_window_title(zo_window_ptr window) {
         atk_object_set_description(gtk_widget_get_accessible(task.close), text_of(window).title.c_str());
 }
 
-// After the next layout, when the button has its place.
-void _zo_window_manager::scroll_to(GtkWidget* button) {
-    scrolling_.cancel();
-    scrolling_.ask([this, button] {
+// After the next layout of the row, when the button has its place (test "ANewButtonIsScrolledIntoView").
+void _zo_window_manager::scroll_to_newest() {
+    if (!newest_task_) return;
+    scrolling_.ask([this] {
+        GtkWidget* const button = std::exchange(newest_task_, nullptr);
         if (!tasks_.count(button) || !widgets_.taskbox_scroll) return;
         GtkAllocation place{};
         gtk_widget_get_allocation(button, &place);

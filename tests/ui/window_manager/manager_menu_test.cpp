@@ -1,0 +1,135 @@
+// SPDX-License-Identifier: MIT
+// Menus take the pointer's crossings away: the panel looks again when they are gone. And what a retracted
+// panel leaves to the windows under it.
+#include "ui/window_manager/panel.hpp"
+
+#include <X11/extensions/shape.h>
+#include <gdk/gdkx.h>
+
+namespace {
+
+int below() { return zo_ui_screen_y() + 600; }
+
+// The parts of the panel that take the pointer, in logical pixels.
+std::vector<test::place> input_shape() {
+    GdkWindow* window = gtk_widget_get_window(test::panel());
+    int count = 0;
+    int order = 0;
+    XRectangle* rectangles = XShapeGetRectangles(GDK_WINDOW_XDISPLAY(window), gdk_x11_window_get_xid(window),
+                                                 ShapeInput, &count, &order);
+    std::vector<test::place> shape;
+    const int scale = gdk_window_get_scale_factor(window);
+    for (int i = 0; i < count; ++i)
+        shape.push_back({rectangles[i].x / scale, rectangles[i].y / scale, rectangles[i].width / scale,
+                         rectangles[i].height / scale});
+    XFree(rectangles);
+    return shape;
+}
+
+class ManagerMenu : public testing::Test {
+  protected:
+    ManagerMenu() { test::move_pointer(zo_ui_screen_x() + 500, below()); }
+
+    // A button that opens a menu under itself.
+    static GtkWidget* menu_button() {
+        GtkWidget* menu = gtk_menu_new();
+        gtk_menu_shell_append(GTK_MENU_SHELL(menu), gtk_menu_item_new_with_label("entry"));
+        gtk_widget_show_all(menu);
+        GtkWidget* button = gtk_menu_button_new();
+        gtk_button_set_label(GTK_BUTTON(button), "menu");
+        gtk_menu_button_set_popup(GTK_MENU_BUTTON(button), menu);
+        gtk_widget_show_all(button);
+        return button;
+    }
+
+    static GtkWidget* menu_of(GtkWidget* button) {
+        return GTK_WIDGET(gtk_menu_button_get_popup(GTK_MENU_BUTTON(button)));
+    }
+
+    // Opens the menu with a click, and takes it away with the pointer at this height.
+    static void use_menu(GtkWidget* button, int y) {
+        test::click(button);
+        ASSERT_TRUE(test::turn_until([&] { return gtk_widget_get_mapped(menu_of(button)); }));
+        test::move_pointer(zo_ui_screen_x() + 500, y);
+        test::settle_desktop();
+        gtk_menu_popdown(GTK_MENU(menu_of(button)));
+        ASSERT_TRUE(test::turn_until([&] { return !gtk_widget_get_mapped(menu_of(button)); }));
+        test::settle_desktop();
+    }
+
+    GtkWidget* show_with_menu() const {
+        panel.open();
+        GtkWidget* button = menu_button();
+        EXPECT_TRUE(zo_window_manager_add_widget_left(panel, button));
+        panel.show();
+        test::move_pointer(zo_ui_screen_x() + 500, zo_ui_screen_y());
+        EXPECT_TRUE(test::is_extended());
+        return button;
+    }
+
+    test::scoped_panel panel;
+};
+
+TEST_F(ManagerMenu, ClosedWithThePointerBelowRetractsThePanel) {
+    GtkWidget* button = show_with_menu();
+    use_menu(button, below());
+    EXPECT_TRUE(test::is_retracted());
+}
+
+TEST_F(ManagerMenu, ClosedWithThePointerInsideLeavesThePanel) {
+    GtkWidget* button = show_with_menu();
+    use_menu(button, zo_ui_screen_y() + 5);
+    EXPECT_TRUE(test::is_extended());
+    test::move_pointer(zo_ui_screen_x() + 500, below());
+    EXPECT_TRUE(test::is_retracted());
+}
+
+TEST_F(ManagerMenu, AKeptPanelStays) {
+    GtkWidget* button = show_with_menu();
+    panel.keep_extended(true);
+    use_menu(button, below());
+    EXPECT_TRUE(test::is_extended());
+}
+
+TEST_F(ManagerMenu, AMenuOfAWindowLeavesThePanelAlone) {
+    panel.show();
+    GtkWidget* window = gtk_window_new(GTK_WINDOW_POPUP);
+    GtkWidget* button = menu_button();
+    gtk_container_add(GTK_CONTAINER(window), button);
+    gtk_window_move(GTK_WINDOW(window), zo_ui_screen_x() + 300, zo_ui_screen_y() + 300);
+    gtk_widget_show_all(window);
+    ASSERT_TRUE(test::turn_until([&] { return test::is_on_screen(window); }));
+    panel.run(zo_window_manager_extend);
+    EXPECT_TRUE(test::is_extended());
+    use_menu(button, below());
+    EXPECT_TRUE(test::is_extended());
+    gtk_widget_destroy(window);
+}
+
+TEST_F(ManagerMenu, ARetractedPanelTakesThePointerInItsLastRowOnly) {
+    panel.show();
+    const test::place place = test::place_of(test::panel());
+    const std::vector<test::place> last_row{{0, place.height - 1, place.width, 1}};
+    const std::vector<test::place> all{{0, 0, place.width, place.height}};
+    EXPECT_EQ(input_shape(), last_row);
+    panel.run(zo_window_manager_extend);
+    EXPECT_EQ(input_shape(), all);
+    panel.run(zo_window_manager_retract);
+    EXPECT_EQ(input_shape(), last_row);
+    test::move_pointer(zo_ui_screen_x() + 500, zo_ui_screen_y());
+    EXPECT_TRUE(test::is_extended());
+    EXPECT_EQ(input_shape(), all);
+    test::move_pointer(zo_ui_screen_x() + 500, below());
+    EXPECT_TRUE(test::is_retracted());
+    EXPECT_EQ(input_shape(), last_row);
+    GtkWidget* toolbar = gtk_box_new(GTK_ORIENTATION_HORIZONTAL, 0);
+    gtk_container_add(GTK_CONTAINER(toolbar), gtk_label_new("tools"));
+    gtk_widget_show_all(toolbar);
+    EXPECT_TRUE(zo_window_manager_add_toolbar(panel, GTK_BOX(toolbar)));
+    EXPECT_TRUE(test::turn_until([&] { return test::place_of(test::panel()).height > place.height; }));
+    EXPECT_TRUE(test::is_retracted());
+    const int height = test::place_of(test::panel()).height;
+    EXPECT_EQ(input_shape(), (std::vector<test::place>{{0, height - 1, place.width, 1}}));
+}
+
+}  // namespace
