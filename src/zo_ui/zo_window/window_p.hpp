@@ -162,6 +162,7 @@ class _zo_window : public _zo_object {
     bool kept_above_ = false;    // the present toplevel was told to stay above
     bool was_hidden_ = false;    // the present toplevel was hidden since it was last mapped
     bool placed_ = false;        // the present toplevel was on screen since it was last hidden
+    bool moving_focus_ = false;  // GTK moves the focus inside the present toplevel
     bool unmaximizing_ = false;  // we asked the desktop to take maximising back
     bool centring_ = false;      // the un-maximised size may still be on its way
     int centred_width_ = 0;      // the size it was centred for

@@ -29,9 +29,12 @@ std::optional<GtkDirectionType> direction_of(guint key) {
     return row->direction;
 }
 
+// Has a key gone into the menu yet? Before, GTK keeps the first widget's focus ready, which nobody sees.
+bool is_entered(GtkWidget* menu) { return gtk_window_has_toplevel_focus(GTK_WINDOW(menu)); }
+
 // Makes GTK draw the focus in a window that the X server never gives it to.
-void show_focus(GtkWidget* menu) {
-    if (gtk_window_has_toplevel_focus(GTK_WINDOW(menu))) return;
+void enter(GtkWidget* menu) {
+    gtk_window_set_focus(GTK_WINDOW(menu), nullptr);
     GdkEvent* event = gdk_event_new(GDK_FOCUS_CHANGE);
     event->focus_change.window = GDK_WINDOW(g_object_ref(gtk_widget_get_window(menu)));
     event->focus_change.in = TRUE;
@@ -40,22 +43,37 @@ void show_focus(GtkWidget* menu) {
     gtk_window_set_focus_visible(GTK_WINDOW(menu), TRUE);
 }
 
+// The first key enters at the menu's one end or the other. From there the arrows go where they point and Tab
+// goes round.
+void move_focus(GtkWidget* menu, GtkDirectionType direction) {
+    if (!is_entered(menu)) {
+        enter(menu);
+        const bool backward =
+            direction == GTK_DIR_UP || direction == GTK_DIR_LEFT || direction == GTK_DIR_TAB_BACKWARD;
+        direction = backward ? GTK_DIR_TAB_BACKWARD : GTK_DIR_TAB_FORWARD;
+    }
+    gtk_widget_child_focus(menu, direction);
+}
+
+// With Shift alone a key is the menu's, as without: the backward Tab has it.
+bool has_modifier(const GdkEventKey& event) {
+    return event.state & gtk_accelerator_get_default_mod_mask() & ~GDK_SHIFT_MASK;
+}
+
 }  // namespace
 
 bool _zo_window::on_tool_menu_key(const GdkEventKey& event) {
     GtkWidget* const menu = widgets_.tool_menu;
-    if (!menu) return false;
+    if (!menu || has_modifier(event)) return false;
     if (event.keyval == GDK_KEY_Escape) {
         close_tool_menu();
         return true;
     }
     if (const auto direction = direction_of(event.keyval)) {
-        show_focus(menu);
-        // At the end of the row of widgets it goes on at the other end.
-        if (!gtk_widget_child_focus(menu, *direction)) gtk_widget_child_focus(menu, *direction);
+        move_focus(menu, *direction);
         return true;
     }
-    GtkWidget* const focused = gtk_window_get_focus(GTK_WINDOW(menu));
+    GtkWidget* const focused = is_entered(menu) ? gtk_window_get_focus(GTK_WINDOW(menu)) : nullptr;
     if (!focused ||
         std::find(std::begin(activating), std::end(activating), event.keyval) == std::end(activating))
         return false;

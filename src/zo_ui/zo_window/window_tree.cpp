@@ -44,6 +44,7 @@ GtkWidget* toplevel_new(bool popup) {
 void _zo_window::build_tree(const zo::window_settings& settings) {
     popup_ = settings.popup_window;
     managed_ = settings.window_managed;
+    moving_focus_ = false;
     build_toplevel(settings);
     widgets_.fixed = gtk_fixed_new();
     gtk_widget_set_name(widgets_.fixed, "window-fixed");

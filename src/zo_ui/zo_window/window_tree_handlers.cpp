@@ -32,8 +32,15 @@ struct zo::window_handlers {
         return FALSE;
     }
 
-    // The class stays until another managed window takes the focus.
-    static gboolean on_focus_out(GtkWidget*, GdkEventFocus*, _zo_window*) { return FALSE; }
+    // The class stays until another managed window takes the focus. When only the focus inside the window
+    // goes from the toplevel itself to another widget, GTK must not hear that the window has lost it (test
+    // "KeepsTheKeyboardWhenTheFocusMovesInside").
+    static gboolean on_focus_out(GtkWidget*, GdkEventFocus*, _zo_window* window) {
+        return window->moving_focus_;
+    }
+
+    static void on_focus_moves(GtkWindow*, GtkWidget*, _zo_window* window) { window->moving_focus_ = true; }
+    static void on_focus_moved(GtkWindow*, GtkWidget*, _zo_window* window) { window->moving_focus_ = false; }
 
     static gboolean on_state(GtkWidget*, GdkEventWindowState* event, _zo_window* window) {
         const zo_window_ptr self = window->handle();
@@ -101,6 +108,9 @@ void _zo_window::connect_toplevel() {
     if (!popup_) {
         connect("focus-in-event", G_CALLBACK(window_handlers::on_focus_in));
         connect("focus-out-event", G_CALLBACK(window_handlers::on_focus_out));
+        connect("set-focus", G_CALLBACK(window_handlers::on_focus_moves));
+        g_signal_connect_after(widgets_.window, "set-focus", G_CALLBACK(window_handlers::on_focus_moved),
+                               this);
     }
     connect("window-state-event", G_CALLBACK(window_handlers::on_state));
     connect("configure-event", G_CALLBACK(window_handlers::on_configure));
