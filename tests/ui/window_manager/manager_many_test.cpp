@@ -26,7 +26,9 @@ TEST(ManagerMany, WindowsComeAndGo) {
     test::run_tasks();
     EXPECT_STREQ(gtk_button_get_label(GTK_BUTTON(test::task_button("w0"))), "retitled");
     EXPECT_STREQ(gtk_button_get_label(GTK_BUTTON(test::task_button("w999"))), "retitled");
-    for (const zo_window_ptr& window : windows) zo_window_show(window);
+    // Only some: the rest of the time would be the toolkit's.
+    for (int i = 0; i < many; i += 50) zo_window_show(windows[static_cast<std::size_t>(i)]);
+    test::run_tasks();
     for (const zo_window_ptr& window : windows) zo_window_hide(window);
     test::run_tasks();
     EXPECT_NEAR(gtk_widget_get_opacity(test::task_button("w500")), 0.6, 0.005);

@@ -25,6 +25,8 @@ TEST(ManagerRightToLeft, IsMirrored) {
     test::joined_window b(panel, "b");
     a.show();
     b.show();
+    ASSERT_TRUE(test::turn_until(
+        [] { return x_in_panel(test::close_button("b")) > 0 && x_in_panel(test::task_button("a")) > 0; }));
     test::settle_desktop();
     EXPECT_GT(x_in_panel(test::task_button("b")), x_in_panel(test::close_button("b")));
     EXPECT_GT(x_in_panel(test::close_button("b")), x_in_panel(test::task_button("a")));
