@@ -12,9 +12,14 @@ endfunction()
 
 tree_test(window_tree_test window_tree_popup_test window_tree_toplevel_test window_tree_opening_test
   window_tree_reads_test window_tree_signals_test window_tree_geometry_test window_tree_unprepared_test
-  window_maximise_test window_size_test window_title_test window_title_theme_test window_title_text_test window_title_clicks_test window_title_ending_test
+  window_maximise_test window_size_test window_title_test window_title_theme_test window_title_text_test
+  window_title_clicks_test window_title_ending_test
   window_photo_test window_tool_menu_test window_tool_menu_grid_test window_tool_menu_closing_test
-  window_tool_menu_keys_test window_active_test)
+  window_tool_menu_keys_test window_active_test window_drag_test
+  window_accessibility_test)
+
+zo_ui_inner_test(window/window_drag_target_test)
+target_link_libraries(window_drag_target_test PRIVATE window_tree_support)
 
 # Once more on a screen with two device pixels to a pixel.
 foreach(wm openbox none)
