@@ -149,6 +149,10 @@ TEST(LangChoice, TakesTheFirstLanguageThatHasACatalogue) {
     EXPECT_EQ(only_keys(spoken("all", "C.UTF-8", "tlh:pl:de")), catalogue("pl"));
 }
 
+TEST(LangChoice, IsUtf8WhateverTheTerminalSpeaks) {
+    EXPECT_EQ(only_keys(spoken("all", "C.UTF-8", "de", {{"OUTPUT_CHARSET", "ISO-8859-1"}})), catalogue("de"));
+}
+
 TEST(LangChoice, LeavesTheApplicationsDomainAlone) {
     const test::child_end end = test::play("other domain", {{"LC_ALL", "C.UTF-8"}, {"LANGUAGE", "de"}});
     EXPECT_EQ(end.output.substr(0, 13), "tooltip_back\n");

@@ -50,7 +50,8 @@ TEST(ServiceCaptures, MayPostAndArmWhenTheyEnd) {
     after(0, [held = on_release(use_everything)] {});
     EXPECT_TRUE(test::turn_until([&] { return ran && timed; }));
     ran = timed = false;
-    zo_system_service_timeout_clear(after(100000, [held = on_release(use_everything)] {}));
+    const unsigned long id = after(100000, [held = on_release(use_everything)] {});
+    post([id] { zo_system_service_timeout_clear(id); });
     EXPECT_TRUE(test::turn_until([&] { return ran && timed; }));
 }
 

@@ -2,6 +2,7 @@
 // The end of the service is final, so each case has a process of its own.
 #include "core/child_process.hpp"
 #include "core/posting.hpp"
+#include "core/sleeping_loop.hpp"
 #include "support/loop.hpp"
 
 #include <glib.h>
@@ -201,6 +202,20 @@ TEST(ServiceEnd, OnAnotherThreadLeavesTheRestToTheLoop) {
     expect_output("on another thread",
                   "first on the loop (done)\ntask on the loop (done)\ntimeout ended on the loop (done)\n"
                   "its task on the loop (done)\n");
+}
+
+const test::scene asleep("asleep", [] {
+    zo_system_service_timeout_clear(after(1000000, [] {}));  // whose making would wake the loop as well
+    post(saying("task"));
+    test::run_tasks();
+    say(test::wakes_sleeping_loop(zo_system_service_end, zo_system_service_done) ? "woken" : "slept on");
+    post([held = on_release(saying("refused"))] { say("never"); });
+    say("after");
+    test::run_tasks();
+});
+
+TEST(ServiceEnd, OnAnotherThreadWakesASleepingLoopAndCloses) {
+    expect_output("asleep", "task (open)\nwoken\nrefused (done)\nafter\n");
 }
 
 }  // namespace

@@ -10,7 +10,6 @@
 #include <atomic>
 #include <chrono>
 #include <thread>
-#include <vector>
 
 namespace {
 
@@ -23,20 +22,17 @@ constexpr int resizing = G_PRIORITY_HIGH_IDLE + 10;
 // A source that is always ready, as a window that draws at every turn.
 class steady_source {
   public:
-    explicit steady_source(int priority)
-        : id_(g_idle_add_full(
-              priority,
-              [](gpointer self) -> gboolean {
-                  ++static_cast<steady_source*>(self)->turns;
-                  return G_SOURCE_CONTINUE;
-              },
-              this, nullptr)) {}
+    explicit steady_source(int priority) : id_(g_idle_add_full(priority, turn, this, nullptr)) {}
     ~steady_source() { g_source_remove(id_); }
     steady_source(const steady_source&) = delete;
     steady_source& operator=(const steady_source&) = delete;
     int turns = 0;
 
   private:
+    static gboolean turn(gpointer self) {
+        ++static_cast<steady_source*>(self)->turns;
+        return G_SOURCE_CONTINUE;
+    }
     guint id_;
 };
 
@@ -94,9 +90,8 @@ class endless_timeout {
     bool stopped_ = false;
 };
 
-// Works for longer than the shortest delay.
-void work() {
-    const auto end = std::chrono::steady_clock::now() + std::chrono::milliseconds(3);
+void work(std::chrono::microseconds duration) {
+    const auto end = std::chrono::steady_clock::now() + duration;
     while (std::chrono::steady_clock::now() < end) std::this_thread::yield();
 }
 
@@ -127,7 +122,7 @@ TEST_P(ServiceFairness, AskingBeforeEachTurnChangesNothing) {
 }
 
 TEST_P(ServiceFairness, ATimeoutThatArmsItselfLetsOthersWork) {
-    endless_timeout timeout(work);
+    endless_timeout timeout([] { work(std::chrono::milliseconds(3)); });  // longer than the shortest delay
     steady_source other(GetParam());
     ASSERT_TRUE(test::turn_until([&] { return timeout.runs >= 2; }));
     const int before = other.turns;
@@ -158,12 +153,21 @@ INSTANTIATE_TEST_SUITE_P(Flush, ServiceFairness, testing::Values(G_PRIORITY_DEFA
 INSTANTIATE_TEST_SUITE_P(Resizing, ServiceFairness, testing::Values(resizing));
 INSTANTIATE_TEST_SUITE_P(Drawing, ServiceFairness, testing::Values(drawing));
 
-TEST(ServicePriority, ATaskComesBeforeDrawing) {
+TEST(ServicePriority, ATaskComesBeforeTheWorkOfOthers) {
+    for (const int priority : {G_PRIORITY_DEFAULT + 1, resizing, drawing, drawing}) {
+        steady_source other(priority);
+        int turns_before = -1;
+        post([&] { turns_before = other.turns; });
+        EXPECT_TRUE(test::turn_until([&] { return turns_before >= 0; }));
+        EXPECT_EQ(turns_before, 0);
+    }
+}
+
+TEST(ServicePriority, TasksThatPostThemselvesHaveAPartInEveryTurnThatDraws) {
+    flood tasks;
     steady_source other(drawing);
-    int drawn_before = -1;
-    post([&] { drawn_before = other.turns; });
-    EXPECT_TRUE(test::turn_until([&] { return drawn_before >= 0; }));
-    EXPECT_EQ(drawn_before, 0);
+    EXPECT_TRUE(test::turn_until([&] { return other.turns >= 5000; }));
+    EXPECT_GE(tasks.runs, 2500);
 }
 
 TEST(ServicePriority, TheLoopIsPendingAsLongAsTasksWait) {

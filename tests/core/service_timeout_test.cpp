@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "core/child_process.hpp"
 #include "core/posting.hpp"
 #include "core/sleeping_loop.hpp"
 #include "support/loop.hpp"
@@ -88,6 +89,12 @@ TEST(ServiceTimeout, OfNoTimeIsNotRunByItsCaller) {
     EXPECT_TRUE(turn_until([&] { return ran; }));
 }
 
+const test::scene first_id("first id", [] { test::say(after(never, [] {}) == 0 ? "zero" : "not zero"); });
+
+TEST(ServiceTimeout, TheFirstIdOfAProcessIsNotZeroEither) {
+    EXPECT_EQ(test::play("first id").output, "not zero\n");
+}
+
 TEST(ServiceTimeout, IdsAreDistinctAndNeverZero) {
     std::set<unsigned long> ids;
     for (int count = 0; count < 100; ++count) ids.insert(after(never, [] {}));
@@ -109,6 +116,31 @@ TEST(ServiceTimeout, AClearedOneDoesNotRunAndTheOthersDo) {
     after(8, note(order, 'b'));
     EXPECT_TRUE(turn_until([&] { return order.size() >= 2; }));
     EXPECT_EQ(order, "ab");
+}
+
+// How long the loop would sleep now, in milliseconds; -1 for ever.
+gint sleep_of_loop() {
+    gint priority = 0;
+    gint timeout = 0;
+    EXPECT_TRUE(g_main_context_acquire(nullptr));
+    g_main_context_prepare(nullptr, &priority);
+    g_main_context_query(g_main_context_default(), priority, &timeout, nullptr, 0);
+    g_main_context_release(nullptr);
+    return timeout;
+}
+
+TEST(ServiceTimeout, AClearedOneWakesNoLoop) {
+    EXPECT_EQ(sleep_of_loop(), -1);
+    const unsigned long late = after(never, [] {});
+    EXPECT_GT(sleep_of_loop(), 0);
+    const unsigned long early = after(never / 2, [] {});
+    EXPECT_LE(sleep_of_loop(), static_cast<gint>(never / 2));
+    zo_system_service_timeout_clear(early);
+    test::run_tasks();
+    EXPECT_GT(sleep_of_loop(), static_cast<gint>(never / 2));
+    zo_system_service_timeout_clear(late);
+    test::run_tasks();
+    EXPECT_EQ(sleep_of_loop(), -1);
 }
 
 TEST(ServiceTimeout, ClearingASpentOrUnknownOneIsSilent) {

@@ -39,5 +39,5 @@ bool test::wakes_sleeping_loop(const std::function<void()>& wake, const std::fun
     while (!done() && !overslept) g_main_context_iteration(nullptr, TRUE);
     waker.join();
     g_main_context_set_poll_func(nullptr, before);
-    return done();
+    return done() && !overslept;
 }

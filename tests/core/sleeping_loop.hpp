@@ -6,9 +6,9 @@
 
 namespace test {
 
-// Runs the main loop on this thread without anything that would wake it, and `wake` on another thread once
-// the loop is going to sleep. False when `done`, asked after every turn, does not hold before a deadline that
-// only a failure reaches.
+// Turns the main loop on this thread until `done` holds, without anything that would wake it, and runs `wake`
+// on another thread once the loop is going to sleep. False when the loop slept on, up to a deadline that only
+// a failure reaches.
 bool wakes_sleeping_loop(const std::function<void()>& wake, const std::function<bool()>& done);
 
 }  // namespace test

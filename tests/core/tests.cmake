@@ -16,7 +16,9 @@ add_dependencies(core_lang_test zo_catalogues)
 zo_test(core_service_order_test FILES core/service_order_test.cpp core/sleeping_loop.cpp)
 zo_test(core_service_captures_test FILES core/service_captures_test.cpp)
 zo_test(core_service_fairness_test FILES core/service_fairness_test.cpp)
-zo_test(core_service_timeout_test FILES core/service_timeout_test.cpp core/sleeping_loop.cpp)
-zo_test(core_service_end_test FILES core/service_end_test.cpp core/child_process.cpp)
+zo_test(core_service_timeout_test
+  FILES core/service_timeout_test.cpp core/child_process.cpp core/sleeping_loop.cpp)
+zo_test(core_service_end_test
+  FILES core/service_end_test.cpp core/child_process.cpp core/sleeping_loop.cpp)
 zo_test(core_service_exit_test FILES core/service_exit_test.cpp core/child_process.cpp)
 zo_test(core_threads_test FILES core/threads_test.cpp)
