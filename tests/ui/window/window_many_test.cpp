@@ -12,7 +12,8 @@ std::size_t toplevels() { return test::toplevels("zo-window").size(); }
 TEST(ManyWindows, InMixedOrderLeaveNothingBehind) {
     std::mt19937 random(7);
     std::vector<zo_window_ptr> windows;
-    for (std::size_t i = 0; i < count; ++i) windows.push_back(zo_window_new("w" + std::to_string(i)));
+    // Few ids: GLib keeps every widget name for good.
+    for (std::size_t i = 0; i < count; ++i) windows.push_back(zo_window_new("w" + std::to_string(i % 10)));
     EXPECT_EQ(zo_object_ref_count("[zo_window]"), static_cast<long>(count));
     for (int round = 0; round < 2; ++round) {
         std::shuffle(windows.begin(), windows.end(), random);
