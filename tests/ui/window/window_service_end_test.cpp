@@ -31,60 +31,82 @@ void expect_lively(GtkWidget* toplevel) {
     EXPECT_TRUE(gtk_widget_get_visible(toplevel));
 }
 
-TEST(WindowServiceEnd, ForgetsTheWidgets) {
+class WindowServiceEnd : public testing::Test {
+  protected:
+    WindowServiceEnd() {
+        for (handle w : {closed, asked, destroyed, outside}) {
+            zo_window_set_enable_title_menu(w, true);
+            zo_window_set_menu_create_handler(w, [](handle, GtkGrid*) {});
+            zo_window_open(w);
+            zo_window_show(w);
+        }
+        test::run_tasks();
+        closed_tree = test::toplevel_named("closed");
+        asked_tree = test::toplevel_named("asked");
+        destroyed_tree = test::toplevel_named("destroyed");
+        outside_tree = test::toplevel_named("outside");
+        EXPECT_TRUE(test::turn_until([&] { return test::is_on_screen(asked_tree); }));
+        gtk_button_clicked(GTK_BUTTON(test::find_class(closed_tree, "title-menu")));
+        for (handle w : {closed, asked, destroyed, outside}) log.watch(w);
+    }
+
+    // Queued before the end, these two still run.
+    void end_with_two_queued() {
+        zo_window_close(closed);
+        zo_window_destroy(destroyed);
+        zo_system_service_end();
+        EXPECT_TRUE(zo_system_service_done());
+        EXPECT_EQ(log.take_names(), "close close destroy");
+        EXPECT_EQ(test::state_of(closed), test::state());
+        EXPECT_EQ(test::state_of(destroyed), test::state{.destroyed = true});
+        EXPECT_EQ(zo_window_instance_id(closed), 1);
+        EXPECT_EQ(zo_window_instance_id(destroyed), 2);
+        for (GtkWidget* tree : {closed_tree, destroyed_tree}) EXPECT_TRUE(gtk_widget_get_visible(tree));
+    }
+
+    // The user may still close a window by its title button, as long as the loop turns.
+    void close_by_the_title_button() {
+        gtk_button_clicked(GTK_BUTTON(test::find_class(asked_tree, "title-close")));
+        EXPECT_EQ(log.take_names(), "close");
+        EXPECT_EQ(test::state_of(asked), test::state());
+        EXPECT_TRUE(gtk_widget_get_visible(asked_tree));
+    }
+
+    // Posts are taken and dropped; what works at once still does.
+    void expect_posts_dropped() {
+        for (const auto operation : {zo_window_open, zo_window_show, zo_window_close})
+            EXPECT_TRUE(operation(closed));
+        EXPECT_TRUE(zo_window_destroy(asked, "late", 1));
+        EXPECT_TRUE(zo_window_set_title(closed, "late"));
+        test::run_tasks();
+        EXPECT_EQ(log.take_names(), "");
+        std::string title;
+        EXPECT_TRUE(zo_window_get_title(closed, title));
+        EXPECT_EQ(title, "late");
+    }
+
     test::event_log log;
     zo_window_ptr closed = zo_window_new("closed");
     zo_window_ptr asked = zo_window_new("asked");
     zo_window_ptr destroyed = zo_window_new("destroyed");
     zo_window_ptr outside = zo_window_new("outside");
-    for (handle w : {closed, asked, destroyed, outside}) {
-        zo_window_set_enable_title_menu(w, true);
-        zo_window_set_menu_create_handler(w, [](handle, GtkGrid*) {});
-        zo_window_open(w);
-        zo_window_show(w);
-    }
-    test::run_tasks();
-    GtkWidget* const closed_tree = test::toplevel_named("closed");
-    GtkWidget* const asked_tree = test::toplevel_named("asked");
-    GtkWidget* const destroyed_tree = test::toplevel_named("destroyed");
-    EXPECT_TRUE(test::turn_until([&] { return test::is_on_screen(asked_tree); }));
-    gtk_button_clicked(GTK_BUTTON(test::find_class(closed_tree, "title-menu")));
+    GtkWidget* closed_tree = nullptr;
+    GtkWidget* asked_tree = nullptr;
+    GtkWidget* destroyed_tree = nullptr;
+    GtkWidget* outside_tree = nullptr;
+};
+
+TEST_F(WindowServiceEnd, ForgetsTheWidgets) {
     ASSERT_EQ(test::toplevels("tool-menu").size(), 1U);
     GtkWidget* const menu = test::toplevels("tool-menu")[0];
-    for (handle w : {closed, asked, destroyed, outside}) log.watch(w);
-
-    // Queued before the end, these two still run.
-    zo_window_close(closed);
-    zo_window_destroy(destroyed);
-    zo_system_service_end();
-    EXPECT_TRUE(zo_system_service_done());
-    EXPECT_EQ(log.take_names(), "close close destroy");
-    EXPECT_EQ(test::state_of(closed), test::state());
-    EXPECT_EQ(test::state_of(destroyed), test::state{.destroyed = true});
-    EXPECT_EQ(zo_window_instance_id(closed), 1);
-    EXPECT_EQ(zo_window_instance_id(destroyed), 2);
-    for (GtkWidget* tree : {closed_tree, destroyed_tree, menu}) EXPECT_TRUE(gtk_widget_get_visible(tree));
-
-    // The user closes another by its title button, while the loop still turns.
-    gtk_button_clicked(GTK_BUTTON(test::find_class(asked_tree, "title-close")));
-    EXPECT_EQ(log.take_names(), "close");
-    EXPECT_EQ(test::state_of(asked), test::state());
-    EXPECT_TRUE(gtk_widget_get_visible(asked_tree));
+    end_with_two_queued();
+    EXPECT_TRUE(gtk_widget_get_visible(menu));
+    close_by_the_title_button();
     expect_lively(asked_tree);
+    expect_posts_dropped();
 
-    // Posts are taken and dropped; what is read at once still works.
-    for (const auto operation : {zo_window_open, zo_window_show, zo_window_close})
-        EXPECT_TRUE(operation(closed));
-    EXPECT_TRUE(zo_window_destroy(asked, "late", 1));
-    EXPECT_TRUE(zo_window_set_title(closed, "late"));
-    test::run_tasks();
-    EXPECT_EQ(log.take_names(), "");
-    std::string title;
-    EXPECT_TRUE(zo_window_get_title(closed, title));
-    EXPECT_EQ(title, "late");
-
-    // A toplevel that is taken away now closes its window as ever.
-    destroy_forgotten(test::toplevel_named("outside"));
+    // A toplevel that is taken away closes its window as ever.
+    destroy_forgotten(outside_tree);
     EXPECT_EQ(log.take_names(), "close");
     EXPECT_EQ(test::state_of(outside), test::state());
 
