@@ -83,6 +83,12 @@ void test::click_at(int x, int y) {
 
 test::point test::middle_of(GtkWidget* widget) {
     GtkWidget* toplevel = gtk_widget_get_toplevel(widget);
+    // A widget that was just added has its place after the next layout; until then GTK says -1.
+    EXPECT_TRUE(turn_until([&] {
+        GtkAllocation place{};
+        gtk_widget_get_allocation(widget, &place);
+        return place.x != -1 && is_on_screen(toplevel);
+    }));
     int x = 0;
     int y = 0;
     gtk_widget_translate_coordinates(widget, toplevel, gtk_widget_get_allocated_width(widget) / 2,
