@@ -139,15 +139,23 @@ TEST(WindowGuards, ADestroyedMarkStopsEveryOperation) {
     }
 }
 
-// Without the flag an existing toplevel still keeps a second tree from being built.
-TEST(WindowGuards, AnExistingToplevelStopsTheOpening) {
+// Without the flag an existing toplevel is not moved, but still keeps a second tree from being built.
+TEST(WindowGuards, AToplevelWithoutTheFlagIsLeftAlone) {
     test::event_log log;
     test::scoped_window window;
     GtkWidget* toplevel = window.open();
     log.watch(window);
+    int x = 0;
+    int y = 0;
+    gtk_window_get_position(GTK_WINDOW(toplevel), &x, &y);
     zo_window_set_bool_property(window, "window-opened", false);
     zo_window_open(window);
+    zo_window_move(window, x + 70, y + 80);
     test::run_tasks();
+    int moved_x = 0;
+    int moved_y = 0;
+    gtk_window_get_position(GTK_WINDOW(toplevel), &moved_x, &moved_y);
+    EXPECT_EQ(std::pair(moved_x, moved_y), std::pair(x, y));
     EXPECT_EQ(log.take_names(), "");
     EXPECT_FALSE(test::state_of(window).opened);
     EXPECT_EQ(test::toplevels("zo-window"), std::vector<GtkWidget*>{toplevel});

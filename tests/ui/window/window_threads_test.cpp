@@ -10,8 +10,9 @@ namespace {
 
 constexpr int threads_count = 8;
 
-// Runs `work(thread, turn)` on all threads while this one turns the loop.
-void on_all_threads(int turns, const std::function<void(int, int)>& work) {
+// Runs `work(thread, turn)` on all threads while this one turns the loop, and `meanwhile` in each turn.
+void on_all_threads(
+    int turns, const std::function<void(int, int)>& work, const std::function<void()>& meanwhile = [] {}) {
     std::atomic<int> left{threads_count};
     std::vector<std::thread> threads;
     for (int thread = 0; thread < threads_count; ++thread)
@@ -19,7 +20,11 @@ void on_all_threads(int turns, const std::function<void(int, int)>& work) {
             for (int turn = 0; turn < turns; ++turn) work(thread, turn);
             --left;
         });
-    EXPECT_TRUE(test::turn_until([&] { return left == 0; }, std::chrono::seconds(240)));
+    const auto done = [&] {
+        meanwhile();
+        return left == 0;
+    };
+    EXPECT_TRUE(test::turn_until(done, std::chrono::seconds(240)));
     for (std::thread& thread : threads) thread.join();
     test::run_tasks();
 }
@@ -91,6 +96,49 @@ TEST(WindowThreads, HaveWindowsOfTheirOwn) {
     EXPECT_EQ(ended, 6 * threads_count);
     EXPECT_EQ(zo_object_ref_count("[zo_window]"), 0);
     EXPECT_TRUE(test::toplevels("zo-window").empty());
+}
+
+// What thread number `thread` reads; nothing else, so that no lock of another function hides a missing one.
+bool read_one(const zo_window_ptr& window, int thread) {
+    bool flag = false;
+    std::string text;
+    switch (thread) {
+        case 0:
+            return zo_window_is_opened(window, &flag);
+        case 1:
+            return zo_window_is_visible(window, &flag);
+        case 2:
+            return zo_window_instance_id(window) >= 0;
+        case 3:
+            return zo_window_get_keep_above(window);
+        case 4:
+            return zo_window_get_title(window, text);
+        case 5:
+            return zo_window_get_id(window, text);
+        case 6:
+            return zo_window_get_class(window, text);
+        default:
+            return zo_window_get_window_manager(window) == nullptr;
+    }
+}
+
+TEST(WindowThreads, ReadWhileTheLoopWrites) {
+    test::scoped_window window("shared");
+    std::atomic<int> written{0};
+    const auto read = [&](int thread, int) {
+        while (written.load(std::memory_order_relaxed) < 15) EXPECT_TRUE(read_one(window, thread));
+    };
+    const auto write = [&] {
+        zo_window_open(window);
+        zo_window_show(window);
+        zo_window_set_keep_above(window, true);
+        for (const test::window_text_row& row : test::window_texts) row.set(window, "text");
+        zo_window_set_window_manager(window, {});
+        zo_window_close(window);
+        test::run_tasks();
+        written.fetch_add(1, std::memory_order_relaxed);
+    };
+    on_all_threads(1, read, write);
 }
 
 // The callbacks themselves stay on the loop, however many threads post.
