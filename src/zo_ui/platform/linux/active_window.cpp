@@ -12,7 +12,7 @@ using zo::platform::x_memory;
 
 Window get_focus_window(Display* display) {
     if (!display) return 0;
-    // The one request that has no errors.
+    // This request has no errors.
     Window focus = 0;
     int revert_to = 0;
     XGetInputFocus(display, &focus, &revert_to);
