@@ -49,7 +49,6 @@ class task_queue {
     bool is(phase wanted);
     bool try_close();
     void discard();
-    static task_queue& of(GSource* source);
     static gboolean eager_prepare(GSource* source, gint* timeout);
     static gboolean eager_check(GSource* source);
     static gboolean patient_prepare(GSource* source, gint* timeout);

@@ -21,11 +21,6 @@ constexpr int last_generations = 1000;
 // life.
 constexpr std::size_t kept_capacity = 1024;
 
-struct queue_source {
-    GSource base;
-    zo::task_queue* queue;
-};
-
 }  // namespace
 
 namespace zo {
@@ -44,8 +39,7 @@ task_queue::task_queue() {
 }
 
 void task_queue::attach(GSourceFuncs& functions, int priority, const char* name) {
-    GSource* source = g_source_new(&functions, sizeof(queue_source));
-    reinterpret_cast<queue_source*>(source)->queue = this;
+    GSource* source = g_source_new(&functions, sizeof(GSource));
     g_source_set_static_name(source, name);
     g_source_set_priority(source, priority);
     g_source_set_can_recurse(source, TRUE);
@@ -165,7 +159,8 @@ void task_queue::end() {
     }
 }
 
-task_queue& task_queue::of(GSource* source) { return *reinterpret_cast<queue_source*>(source)->queue; }
+// These run on the loop's thread, perhaps while another thread is still making the queue: instance() waits
+// for it.
 
 gboolean task_queue::eager_prepare(GSource* source, gint* timeout) {
     *timeout = -1;
@@ -173,19 +168,19 @@ gboolean task_queue::eager_prepare(GSource* source, gint* timeout) {
 }
 
 gboolean task_queue::eager_check(GSource* source) {
-    const task_queue& queue = of(source);
+    const task_queue& queue = instance();
     return queue.waiting_ && g_source_get_time(source) >= queue.aside_until_;
 }
 
-gboolean task_queue::patient_prepare(GSource* source, gint* timeout) {
+gboolean task_queue::patient_prepare(GSource*, gint* timeout) {
     *timeout = -1;
-    return of(source).waiting_;
+    return instance().waiting_;
 }
 
-gboolean task_queue::patient_check(GSource* source) { return of(source).waiting_; }
+gboolean task_queue::patient_check(GSource*) { return instance().waiting_; }
 
-gboolean task_queue::dispatch(GSource* source, GSourceFunc, gpointer) {
-    of(source).run_batch();
+gboolean task_queue::dispatch(GSource*, GSourceFunc, gpointer) {
+    instance().run_batch();
     return G_SOURCE_CONTINUE;
 }
 

@@ -22,16 +22,26 @@ using test::post;
 constexpr int threads_count = 8;
 constexpr int turns = 200;
 
-// Runs `work(thread, turn)` on all threads while this one turns the loop.
+// Runs `work(thread, turn)` on all threads while this one turns the loop. Now and then they wait for a turn
+// of it, so that none is through before the loop has begun.
 void on_all_threads(const std::function<void(int, int)>& work) {
     std::atomic<int> left{threads_count};
+    std::atomic<long> loop_turns{0};
     std::vector<std::thread> threads;
     for (int thread = 0; thread < threads_count; ++thread)
         threads.emplace_back([&, thread] {
-            for (int turn = 0; turn < turns; ++turn) work(thread, turn);
+            for (int turn = 0; turn < turns; ++turn) {
+                work(thread, turn);
+                if (turn % 10 != 0) continue;
+                for (const long seen = loop_turns; loop_turns == seen;) std::this_thread::yield();
+            }
             --left;
         });
-    EXPECT_TRUE(test::turn_until([&] { return left == 0; }, std::chrono::seconds(120)));
+    const auto all_done = [&] {
+        ++loop_turns;
+        return left == 0;
+    };
+    EXPECT_TRUE(test::turn_until(all_done, std::chrono::seconds(120)));
     for (std::thread& thread : threads) thread.join();
 }
 
