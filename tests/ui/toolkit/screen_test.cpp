@@ -40,7 +40,7 @@ TEST(Screen, KeepsTheValuesOfTheStart) {
     EXPECT_TRUE(test::turn_until([&] { return read_now()[2] == 1024; }));
     EXPECT_EQ(cached(), before);
     test::run_command({"xrandr", "--output", "screen", "--mode", "1920x1080"});
-    EXPECT_TRUE(test::turn_until([&] { return read_now()[2] == 1920; }));
+    EXPECT_TRUE(test::turn_until([&] { return read_now()[2] == 1920 && read_now()[6] == 1920; }));
     zo_ui_init();
     EXPECT_EQ(cached(), read_now());
 }
