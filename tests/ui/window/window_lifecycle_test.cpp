@@ -139,7 +139,8 @@ TEST(WindowGuards, ADestroyedMarkStopsEveryOperation) {
     }
 }
 
-// Without the flag an existing toplevel is not moved, but still keeps a second tree from being built.
+// Without the flag an existing toplevel is not moved or renamed, but still keeps a second tree from being
+// built.
 TEST(WindowGuards, AToplevelWithoutTheFlagIsLeftAlone) {
     test::event_log log;
     test::scoped_window window;
@@ -151,7 +152,9 @@ TEST(WindowGuards, AToplevelWithoutTheFlagIsLeftAlone) {
     zo_window_set_bool_property(window, "window-opened", false);
     zo_window_open(window);
     zo_window_move(window, x + 70, y + 80);
+    zo_window_set_id(window, "other");
     test::run_tasks();
+    EXPECT_STREQ(gtk_widget_get_name(toplevel), "w");
     int moved_x = 0;
     int moved_y = 0;
     gtk_window_get_position(GTK_WINDOW(toplevel), &moved_x, &moved_y);

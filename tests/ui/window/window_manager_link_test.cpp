@@ -105,6 +105,17 @@ TEST_F(WindowManagerLink, ADestroyedWindowJoinsNobody) {
     EXPECT_EQ(m.use_count(), 1);
 }
 
+TEST_F(WindowManagerLink, TheDestroyedMarkAloneStopsIt) {
+    link(m);
+    log.take();
+    zo_window_set_window_manager(window, {});
+    zo_window_set_bool_property(window, "window-destroyed", true);
+    test::run_tasks();
+    EXPECT_EQ(log.take_names(), "");
+    EXPECT_EQ(present(), m);
+    zo_window_set_bool_property(window, "window-destroyed", false);
+}
+
 TEST_F(WindowManagerLink, NobodyIsJoinedFromInsideTheEnd) {
     link(m);
     log.take();
