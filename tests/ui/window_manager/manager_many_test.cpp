@@ -6,12 +6,16 @@ namespace {
 
 constexpr int many = 1000;
 
+// A tenth of the windows has an id of its own. GLib keeps a quark for every widget name, and the table that a
+// process with more than 2,048 quarks outgrows is left behind, which the leak checker sees.
+std::string id_of(int i) { return i % 10 < 2 ? "w" + std::to_string(i) : "one-of-many"; }
+
 TEST(ManagerMany, WindowsComeAndGo) {
     const test::scoped_panel panel;
     panel.show();
     std::vector<zo_window_ptr> windows;
     for (int i = 0; i < many; ++i) {
-        windows.push_back(zo_window_new("w" + std::to_string(i)));
+        windows.push_back(zo_window_new(id_of(i)));
         zo_window_set_window_manager(windows.back(), panel);
         zo_window_open(windows.back());
     }
@@ -25,7 +29,7 @@ TEST(ManagerMany, WindowsComeAndGo) {
     for (const zo_window_ptr& window : windows) zo_window_set_title(window, "retitled");
     test::run_tasks();
     EXPECT_STREQ(gtk_button_get_label(GTK_BUTTON(test::task_button("w0"))), "retitled");
-    EXPECT_STREQ(gtk_button_get_label(GTK_BUTTON(test::task_button("w999"))), "retitled");
+    EXPECT_STREQ(gtk_button_get_label(GTK_BUTTON(test::task_button("w991"))), "retitled");
     // Only some: the rest of the time would be the toolkit's.
     for (int i = 0; i < many; i += 50) zo_window_show(windows[static_cast<std::size_t>(i)]);
     test::run_tasks();
