@@ -16,6 +16,8 @@ zo_library(zo_ui
     zo_ui/toolkit/theme.cpp
     zo_ui/toolkit/tools.cpp
     zo_ui/toolkit/widgets.cpp
+    zo_ui/zo_appindicator/appindicator.cpp
+    zo_ui/zo_appindicator/appindicator_menu.cpp
     zo_ui/zo_notification/notification_managed.cpp
     zo_ui/zo_window/window.cpp
     zo_ui/zo_window/window_active.cpp
@@ -52,6 +54,7 @@ zo_library(zo_ui
     zo_ui/zo_window_manager/window_list.cpp
   HEADERS
     zo_ui/platform/linux.hpp
+    zo_ui/zo_appindicator.hpp
     zo_ui/zo_handles.hpp
     zo_ui/zo_theme.hpp
     zo_ui/zo_ui.hpp
@@ -63,5 +66,5 @@ zo_library(zo_ui
     zo_ui/zo_window_event.hpp
     zo_ui/zo_window_manager.hpp
   PUBLIC zo_core PkgConfig::GTK3
-  PRIVATE PkgConfig::X11 PkgConfig::XMU)
+  PRIVATE PkgConfig::APPINDICATOR PkgConfig::X11 PkgConfig::XMU)
 target_compile_definitions(zo_ui_objects PRIVATE G_LOG_DOMAIN="zo_ui")
