@@ -18,7 +18,14 @@ zo_library(zo_ui
     zo_ui/toolkit/widgets.cpp
     zo_ui/zo_appindicator/appindicator.cpp
     zo_ui/zo_appindicator/appindicator_menu.cpp
-    zo_ui/zo_notification/notification_managed.cpp
+    zo_ui/zo_notification/notification.cpp
+    zo_ui/zo_notification/notification_api.cpp
+    zo_ui/zo_notification/notification_closing.cpp
+    zo_ui/zo_notification/notification_popup.cpp
+    zo_ui/zo_notification/notification_settings.cpp
+    zo_ui/zo_notification/notification_showing.cpp
+    zo_ui/zo_notification/notification_stack.cpp
+    zo_ui/zo_notification/notification_state.cpp
     zo_ui/zo_window/window.cpp
     zo_ui/zo_window/window_active.cpp
     zo_ui/zo_window/window_callbacks.cpp
@@ -56,6 +63,7 @@ zo_library(zo_ui
     zo_ui/platform/linux.hpp
     zo_ui/zo_appindicator.hpp
     zo_ui/zo_handles.hpp
+    zo_ui/zo_notification.hpp
     zo_ui/zo_theme.hpp
     zo_ui/zo_ui.hpp
     zo_ui/zo_ui_connect.hpp

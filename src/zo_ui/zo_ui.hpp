@@ -19,6 +19,8 @@
 
 #include <zo_ui/zo_window_manager.hpp>
 
+#include <zo_ui/zo_notification.hpp>
+
 #include <zo_ui/zo_appindicator.hpp>
 
 #include <zo_ui/zo_theme.hpp>

@@ -32,7 +32,7 @@ void _zo_window_manager::show_now() {
     gtk_window_set_keep_above(GTK_WINDOW(widgets_.window), TRUE);
     for (const zo_window_ptr& window : shown_windows_.snapshot()) window->restore();
     for (const auto& [id, notification] : std::map(manager_notifications_))
-        zo::managed(*notification).show_managed();
+        zo::show_notification(*notification);
     gtk_widget_show_all(widgets_.window);
     if (!is_visible()) return;
     gtk_window_get_position(GTK_WINDOW(widgets_.window), &widgets_.x, &widgets_.y);
@@ -48,7 +48,7 @@ void _zo_window_manager::hide_now() {
     gtk_widget_hide(widgets_.window);
     for (const zo_window_ptr& window : shown_windows_.snapshot()) window->hide();
     for (const auto& [id, notification] : std::map(manager_notifications_))
-        zo::managed(*notification).hide_managed();
+        zo::hide_notification(*notification);
     if (fn) fn(self);
 }
 
@@ -67,7 +67,7 @@ void _zo_window_manager::close_now() {
     std::map<unsigned long, zo_notification_ptr> notifications;
     notifications.swap(manager_notifications_);
     for (const auto& [id, notification] : notifications)
-        zo::managed(*notification).destroy_managed(source::file, source::closes_notification);
+        zo::destroy_notification(*notification, source::file, source::closes_notification);
     set_opened(false);
     set_visible(false);
     GtkWidget* const panel = widgets_.window;
@@ -99,6 +99,9 @@ void _zo_window_manager::destroy_now() {
         window->destroy(source::file, source::destroys_window);
     }
     set_destroyed(true);
+    // One that waits for the panel learns that it waits in vain.
+    for (const auto& [id, notification] : std::map(manager_notifications_))
+        zo::show_notification(*notification);
     if (fn) fn(self);
     let_go_when_done();
 }
