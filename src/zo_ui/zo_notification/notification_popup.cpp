@@ -16,6 +16,8 @@
 #include <zo_ui/zo_ui_tools.hpp>
 #include <zo_ui/zo_ui_widgets.hpp>
 
+#include <algorithm>
+
 namespace source = zo::notification_source;
 
 namespace {
@@ -26,6 +28,7 @@ constexpr int title_height = 16;
 constexpr int content_spacing = 4;
 constexpr int content_padding = 20;
 constexpr int content_characters = 30;
+constexpr int line_characters = 48;  // of the title, and of all actions together
 
 GtkWidget* box_new(GtkOrientation orientation, int spacing, const char* style_class) {
     GtkWidget* box = gtk_box_new(orientation, spacing);
@@ -67,11 +70,22 @@ GtkWidget* toplevel_new(const std::string& title) {
     return popup;
 }
 
+// A longer text ends in an ellipsis, instead of widening the popup, and is told whole by the tooltip.
+void shorten(GtkWidget* label, int characters) {
+    const char* text = gtk_label_get_text(GTK_LABEL(label));
+    gtk_label_set_ellipsize(GTK_LABEL(label), PANGO_ELLIPSIZE_END);
+    gtk_label_set_max_width_chars(GTK_LABEL(label), characters);
+    if (g_utf8_strlen(text, -1) > characters) gtk_widget_set_tooltip_text(label, text);
+}
+
 // Words stay whole unless one is wider than the popup, which it would stretch beyond its place.
 void break_long_words(GtkWidget* label) {
     int narrowest = 0;
+    gtk_widget_show(label);  // hidden ones measure nothing
     gtk_widget_get_preferred_width(label, &narrowest, nullptr);
-    if (narrowest > popup_width) gtk_label_set_line_wrap_mode(GTK_LABEL(label), PANGO_WRAP_WORD_CHAR);
+    if (narrowest <= popup_width) return;
+    gtk_label_set_line_wrap_mode(GTK_LABEL(label), PANGO_WRAP_WORD_CHAR);
+    gtk_widget_queue_resize(label);
 }
 
 }  // namespace
@@ -102,7 +116,7 @@ void _zo_notification::build_title(const std::string& title) {
     gtk_widget_set_size_request(widgets_.title_box, title_width, title_height);
     pack(widgets_.wrapper, widgets_.title_box);
     widgets_.title_label = gtk_label_new(title.c_str());
-    gtk_label_set_ellipsize(GTK_LABEL(widgets_.title_label), PANGO_ELLIPSIZE_END);
+    shorten(widgets_.title_label, line_characters);
     zo::add_class(widgets_.title_label, "title-text");
     gtk_box_set_center_widget(GTK_BOX(widgets_.title_box), widgets_.title_label);
     widgets_.close_button = zo_ui_button16_new("title-close");
@@ -154,9 +168,11 @@ void _zo_notification::build_actions() {
     }
     if (actions.empty()) return zo::add_class(widgets_.content_box, "no-actions");
     widgets_.action_box = box_new(GTK_ORIENTATION_HORIZONTAL, 1, "action-box");
+    const int characters = std::max(line_characters / static_cast<int>(actions.size()), 6);
     for (const auto& [name, label] : actions) {
         GtkWidget* button = gtk_button_new_with_label(readable(label).c_str());
         gtk_widget_set_name(button, name.c_str());
+        shorten(gtk_bin_get_child(GTK_BIN(button)), characters);
         if (actions.size() == 1) zo::add_class(button, "only_one");
         zo_ui_connect_button_click_signal(
             button, [self = handle()](GtkWidget* clicked) { self->on_action(clicked); });
