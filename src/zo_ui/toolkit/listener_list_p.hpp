@@ -49,6 +49,11 @@ class listener_list {
 
     std::size_t size() const { return entries_.size(); }
 
+    // Takes every entry's handlers off its widget: signals no longer reach the callables.
+    void disconnect() {
+        for (const auto& [widget, held] : entries_) g_signal_handlers_disconnect_by_data(widget, held.get());
+    }
+
   private:
     std::map<GtkWidget*, entry> entries_;
 };

@@ -34,6 +34,9 @@ struct toolkit_state {
     std::string theme_path = "./share/themes/brevant/";
     std::string theme_name = "brevant";
     GtkCssProvider* theme_provider = nullptr;  // owned; null without a theme
+
+    // Takes the callables of all lists off their widgets.
+    void disconnect();
 };
 
 toolkit_state& toolkit();
