@@ -13,9 +13,10 @@ constexpr std::string_view error_prefix = "\033[1;31mZO-SYSTEM**ERROR**\033[0;0m
 constexpr std::string_view name_colour = "\033[0;35m";
 constexpr std::string_view colour_off = "\033[0;0m";
 
-// The stream's own lock does not cover a stream buffer that the application put in its place.
-std::mutex& output_mutex() {
-    static auto& mutex = *new std::mutex;
+// The stream's own lock does not cover a stream buffer that the application put in its place. That buffer is
+// code of the application, which may call what writes a line itself.
+std::recursive_mutex& output_mutex() {
+    static auto& mutex = *new std::recursive_mutex;
     return mutex;
 }
 

@@ -59,8 +59,9 @@ void _zo_object::destroy(std::string reason, int line) {
 
 std::string _zo_object::describe() {
     const char* held = is_reffed() ? ", referenced" : "";
+    const std::string type = get_type();  // a subclass may need locks of its own for it
     zo::property_guard guard(*this, source, destroy_line);
-    return get_type() + " with " + std::to_string(property_list.size()) + " properties" + held;
+    return type + " with " + std::to_string(property_list.size()) + " properties" + held;
 }
 
 void _zo_object::property_lock(std::string, int) { property_mutex_.lock(); }

@@ -10,6 +10,7 @@
 #include <map>
 #include <sstream>
 #include <thread>
+#include <utility>
 #include <vector>
 
 namespace {
@@ -148,6 +149,33 @@ const test::scene dying_scene("dying", [] {
 
 TEST(Diagnostics, ALineIsOutBeforeTheCallReturns) {
     EXPECT_EQ(test::play("dying").output, error + "assertion failed: written - at once - file:1\n");
+}
+
+// A stream buffer of the application that finds something to complain of itself, once.
+class complaining : public std::streambuf {
+  public:
+    complaining() : before_(std::cout.rdbuf(this)) {}
+    ~complaining() override { std::cout.rdbuf(before_); }
+
+  private:
+    std::streamsize xsputn(const char* text, std::streamsize size) override {
+        if (std::exchange(silent_, false)) zo::warn_null_handle("inner");
+        return before_->sputn(text, size);
+    }
+    std::streambuf* before_;
+    bool silent_ = true;
+};
+
+const test::scene complaining_scene("complaining", [] {
+    const complaining buffer;
+    zo::warn_null_handle("outer");
+});
+
+// In a process of its own: a lock that is not given back would never let it end.
+TEST(Diagnostics, AStreamBufferMayWriteALineItself) {
+    const test::child_end end = test::play("complaining");
+    EXPECT_EQ(end.status, 0);
+    EXPECT_EQ(end.output, test::null_handle_line("inner") + test::null_handle_line("outer"));
 }
 
 }  // namespace

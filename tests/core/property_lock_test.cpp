@@ -187,4 +187,20 @@ TEST_F(PropertyLock, AReplacedCallableEndsAfterTheLock) {
     EXPECT_TRUE(ends_unlocked<std::function<void()>>(*object)) << "a callable of another signature";
 }
 
+// A class whose tag needs another thread, which needs the lock.
+class _zo_asking : public _zo_object {
+  public:
+    std::string get_type() override {
+        is_free = free_for_others(*this);
+        return "[zo_asking]";
+    }
+    bool is_free = false;
+};
+
+TEST(PropertyLockOfADescription, IsFreeWhileTheClassTellsItsTag) {
+    const auto object = boost::make_shared<_zo_asking>();
+    EXPECT_EQ(object->describe(), "[zo_asking] with 1 properties");
+    EXPECT_TRUE(object->is_free);
+}
+
 }  // namespace
