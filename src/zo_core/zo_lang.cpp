@@ -34,12 +34,15 @@ constexpr std::array<english_text, 10> english{{
     {"toolbar-unlocked", "The panel slides away. Click to keep it open."},
 }};
 
+void bind_domain();
+
 // Catalogues stand beside the library (prefix/share/locale), wherever the prefix was moved or staged; the
-// configured place is the fallback.
+// configured place is the fallback. An exported function would not tell where the library is: in a program
+// that takes its address, it may be the program's own entry.
 std::string locale_directory() {
     namespace fs = std::filesystem;
     Dl_info self;
-    if (dladdr(reinterpret_cast<const void*>(&zo_lang_get_string), &self) && self.dli_fname) {
+    if (dladdr(reinterpret_cast<const void*>(&bind_domain), &self) && self.dli_fname) {
         std::error_code error;
         fs::path prefix = fs::canonical(self.dli_fname, error).parent_path();
         for (int up = 0; up < 3 && !error && prefix.has_relative_path(); ++up) {

@@ -22,3 +22,11 @@ zo_test(core_service_end_test
   FILES core/service_end_test.cpp core/child_process.cpp core/sleeping_loop.cpp)
 zo_test(core_service_exit_test FILES core/service_exit_test.cpp core/child_process.cpp)
 zo_test(core_threads_test FILES core/threads_test.cpp)
+
+# At a fixed address, so that the address of a library's function is the program's own entry for it.
+add_executable(outside_program core/outside_program.cpp)
+target_link_libraries(outside_program PRIVATE zo_core)
+target_compile_options(outside_program PRIVATE -fno-pie)
+target_link_options(outside_program PRIVATE -no-pie)
+zo_test(core_lang_outside_test FILES core/lang_outside_test.cpp)
+add_dependencies(core_lang_outside_test zo_catalogues outside_program)
