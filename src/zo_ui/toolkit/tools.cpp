@@ -33,6 +33,8 @@ bool zo_ui_on_link_activated_default_open(GtkLabel*, char*, void*) { return fals
 
 void zo_ui_get_clipboard_text(GtkClipboard* clipboard,
                               std::function<void(GtkClipboard*, const char*)> callback) {
-    toolkit().clipboard_request.swap(callback);
+    // The callable of an unanswered request goes before the answer to this one can come, with what it does
+    // then.
+    { const auto old = std::exchange(toolkit().clipboard_request, std::move(callback)); }
     gtk_clipboard_request_text(clipboard, on_clipboard_text, nullptr);
 }

@@ -73,4 +73,19 @@ TEST(Clipboard, TheCallableMayAskAgain) {
     EXPECT_TRUE(test::turn_until([&] { return answers == 3; }));
 }
 
+// What the callable does when it goes is over before the answer to the next request, even to one that is
+// answered at once.
+TEST(Clipboard, TheOldCallableGoesBeforeTheNewAnswerComes) {
+    gtk_clipboard_set_text(clipboard(), "own", -1);
+    std::vector<std::string> order;
+    std::shared_ptr<void> token(nullptr, [&](void*) { order.push_back("old one gone"); });
+    zo_ui_get_clipboard_text(gtk_clipboard_get(gdk_atom_intern("ZO_NOBODY_OWNS_THIS", FALSE)),
+                             [token](GtkClipboard*, const char*) {});
+    token.reset();
+    EXPECT_TRUE(order.empty());
+    zo_ui_get_clipboard_text(clipboard(), [&](GtkClipboard*, const char*) { order.push_back("answer"); });
+    ASSERT_TRUE(test::turn_until([&] { return order.size() == 2; }));
+    EXPECT_EQ(order, (std::vector<std::string>{"old one gone", "answer"}));
+}
+
 }  // namespace
