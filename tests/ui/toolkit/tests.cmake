@@ -3,5 +3,5 @@ zo_ui_test(toolkit/connectors_test toolkit/connector_lifetime_test toolkit/widge
   toolkit/screen_test toolkit/clipboard_test toolkit/redraw_ticker_test toolkit/tools_test toolkit/theme_test
   toolkit/theme_cover_test)
 # Before zo_ui_init, and without any display.
-zo_ui_test(toolkit/unprepared_test)
+zo_ui_test(toolkit/unprepared_test toolkit/exit_test)
 zo_test(displayless_test FILES ui/toolkit/displayless_test.cpp LIBRARIES zo_ui PkgConfig::GTK3)
