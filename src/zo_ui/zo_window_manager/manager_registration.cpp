@@ -28,6 +28,11 @@ void _zo_window_manager::disconnect_window(zo_window_ptr window) {
     const zo_window_manager_ptr self = handle();
     shown_windows_.remove(window);
     const zo::task task = zo::read_task(window);
+    // Forgotten before they go: the application's "destroy" handlers may let the window join again (test
+    // "JoiningAgainWhileLeaving").
+    zo::write_task_button(window, nullptr);
+    zo::write_task_close(window, nullptr);
+    zo::write_task_click(window, nullptr);
     // The button itself goes, its padding stays in the row (test "LeavingLeavesThePaddingInTheRow").
     const auto take_out = [&](GtkWidget* button, zo::task_role role) {
         if (!is_opened() || !is_task(button, role, window)) return;
@@ -36,9 +41,6 @@ void _zo_window_manager::disconnect_window(zo_window_ptr window) {
     };
     take_out(task.button, zo::task_role::button);
     take_out(task.close, zo::task_role::close);
-    zo::write_task_button(window, nullptr);
-    zo::write_task_close(window, nullptr);
-    zo::write_task_click(window, nullptr);
     delete task.click;
     let_go_when_done();
 }
@@ -64,7 +66,9 @@ void _zo_window_manager::on_window_hidden(zo_window_ptr window) {
 
 void _zo_window_manager::on_window_close(zo_window_ptr window) {
     if (!shown_windows_.remove(window)) return;
-    const zo::task task = zo::read_task(window);
+    const zo::task task = zo::read_task_buttons(window);
+    zo::write_task_button(window, nullptr);
+    zo::write_task_close(window, nullptr);
     const auto drop = [&](GtkWidget* button, zo::task_role role) {
         if (!is_opened() || !is_task(button, role, window)) return;
         let_go_of(button);
@@ -72,8 +76,6 @@ void _zo_window_manager::on_window_close(zo_window_ptr window) {
     };
     drop(task.button, zo::task_role::button);
     drop(task.close, zo::task_role::close);
-    zo::write_task_button(window, nullptr);
-    zo::write_task_close(window, nullptr);
 }
 
 void _zo_window_manager::on_window_destroy(zo_window_ptr window) { disconnect_window(window); }

@@ -53,6 +53,22 @@ zo::task zo::read_task(const zo_window_ptr& window) {
     return read;
 }
 
+zo::task zo::read_task_buttons(const zo_window_ptr& window) {
+    task read;
+    property_guard guard(*window, source::file, source::task_button_reader);
+    guard.read(button_name, read.button, {"&exwidget", list});
+    guard.read(close_name, read.close, {"&exwidget2", list});
+    return read;
+}
+
+zo::task zo::read_titled_task(const zo_window_ptr& window) {
+    task read;
+    property_guard guard(*window, source::file, source::task_button_reader);
+    guard.read(button_name, read.button, {"&exwidget", list});
+    zo_property_get_extract<GtkWidget*>(window->property_list, close_name, &read.close);
+    return read;
+}
+
 void zo::write_task_button(const zo_window_ptr& window, GtkWidget* button) {
     property_guard guard(*window, source::file, source::task_button_writer);
     const char* text = button ? "button" : "nullptr";

@@ -85,7 +85,7 @@ void _zo_window_manager::open_task_buttons(const zo_window_ptr& window) {
                        source::task_button_reader + 4);
     if (!is_task(task.close, zo::task_role::close, window))
         zo::write_task_close(window, make_close_button(window, text.title));
-    if (!task.click || is_task(task.button, zo::task_role::button, window)) return;
+    if (is_task(task.button, zo::task_role::button, window)) return;
     GtkWidget* button = make_task_button(window, text.title, task.click);
     zo::write_task_button(window, button);
     if (!text.id.empty()) gtk_widget_set_name(button, text.id.c_str());
@@ -105,7 +105,7 @@ GtkWidget* _zo_window_manager::make_task_button(const zo_window_ptr& window, con
                                                 click_function* cb) {
     GtkWidget* button = gtk_button_new_with_label("");
     set_title(button, title);
-    g_signal_connect(button, "clicked", G_CALLBACK(on_task_clicked), cb);
+    if (cb) g_signal_connect(button, "clicked", G_CALLBACK(on_task_clicked), cb);
     gtk_widget_set_margin_start(button, task_margin);
     pack_task(button, zo::task_role::button, window);
     return button;
@@ -120,14 +120,14 @@ void _zo_window_manager::pack_task(GtkWidget* button, zo::task_role role, const 
 }
 
 void _zo_window_manager::set_task_opacity(const zo_window_ptr& window, double opacity) {
-    const zo::task task = zo::read_task(window);
+    const zo::task task = zo::read_task_buttons(window);
     if (is_task(task.button, zo::task_role::button, window)) gtk_widget_set_opacity(task.button, opacity);
     if (is_task(task.close, zo::task_role::close, window)) gtk_widget_set_opacity(task.close, opacity);
 }
 
 void _zo_window_manager::on_window_title(zo_window_ptr window) {
     if (!registered_windows_.contains(window) || !is_opened()) return;
-    const zo::task task = zo::read_task(window);
+    const zo::task task = zo::read_titled_task(window);
     if (is_task(task.button, zo::task_role::button, window)) set_title(task.button, text_of(window).title);
     if (is_task(task.close, zo::task_role::close, window))
         atk_object_set_description(gtk_widget_get_accessible(task.close), text_of(window).title.c_str());

@@ -35,7 +35,11 @@ struct task {
 // Creates the properties where they do not exist, with both widgets null; an existing click handler stays.
 void join_task(const zo_window_ptr& window);
 
+// Each reads what its caller acts on, and reports what of that is missing: everything, the two widgets, or
+// the button that shows the title. The last gives the close button too, if there is one.
 task read_task(const zo_window_ptr& window);
+task read_task_buttons(const zo_window_ptr& window);
+task read_titled_task(const zo_window_ptr& window);
 void write_task_button(const zo_window_ptr& window, GtkWidget* button);
 void write_task_close(const zo_window_ptr& window, GtkWidget* button);
 void write_task_click(const zo_window_ptr& window, std::function<void(GtkWidget*)>* click);
