@@ -31,8 +31,12 @@ int _zo_window_manager::panel_height() const {
 void _zo_window_manager::move_panel(int y) {
     widgets_.x = zo_ui_screen_x();
     widgets_.y = y;
+    // A panel that slides out under the pointer has to have it all the time: else what is below would see it
+    // come and go (test "SlidingOutUnderThePointerIsNotFeltBelow").
+    const bool extends = y == zo_ui_screen_y();
+    if (extends) shape_input();
     place_panel();
-    shape_input();
+    if (!extends) shape_input();
 }
 
 // GTK does not move a hidden window back to where it was first mapped (test "ItMovesWhileItIsHidden").
@@ -78,25 +82,28 @@ int _zo_window_manager::on_crossing(const GdkEventCrossing& event) {
     return TRUE;
 }
 
-int _zo_window_manager::pointer_y() const {
+std::pair<int, int> _zo_window_manager::pointer() const {
     GdkSeat* seat = gdk_display_get_default_seat(gtk_widget_get_display(widgets_.window));
-    int y = 0;
-    gdk_device_get_position(gdk_seat_get_pointer(seat), nullptr, nullptr, &y);
-    return y;
+    std::pair<int, int> place;
+    gdk_device_get_position(gdk_seat_get_pointer(seat), nullptr, &place.first, &place.second);
+    return place;
 }
 
 // A menu of the panel takes the pointer's leaving away. When it goes and the pointer is below, the panel goes
-// too. A menu that was opened elsewhere takes nothing away (test "AMenuOfAWindowLeavesThePanelAlone").
+// too. A menu that was opened elsewhere takes nothing away (tests "AMenuOfAWindowLeavesThePanelAlone",
+// "ManagerForeignMenu").
 void _zo_window_manager::on_grab_begun() {
-    grabbed_inside_ = widgets_.window && pointer_y() < widgets_.y + panel_height();
+    const auto [x, y] = pointer();
+    const bool in_width = x >= zo_ui_screen_x() && x < zo_ui_screen_x() + zo_ui_screen_width();
+    grabbed_inside_ = in_width && y >= widgets_.y && y < widgets_.y + panel_height();
 }
 
 void _zo_window_manager::on_grab_ended() {
     if (!std::exchange(grabbed_inside_, false)) return;
-    if (!widgets_.window || !gtk_widget_get_mapped(widgets_.window)) return;
+    if (!gtk_widget_get_mapped(widgets_.window)) return;
     GdkEventCrossing event{};
     event.type = GDK_LEAVE_NOTIFY;
-    event.y_root = pointer_y();
+    event.y_root = pointer().second;
     crossing_handler_(widgets_.event_box, &event);
 }
 

@@ -17,7 +17,7 @@ zo::panel_part part_of(const GtkAllocation& allocation) {
 
 struct zo::panel_handlers {
     static void on_left(GtkWidget*, GtkAllocation* allocation, _zo_window_manager* manager) {
-        manager->widgets_.left = part_of(*allocation);
+        manager->on_left_allocated(*allocation);
     }
 
     static void on_center(GtkWidget*, GtkAllocation* allocation, _zo_window_manager* manager) {
@@ -68,11 +68,17 @@ void _zo_window_manager::connect_panel() {
     connect(widgets_.lock_button, "clicked", G_CALLBACK(panel_handlers::on_lock));
 }
 
-// When the service is done, a closed panel stays on screen: the handlers find it forgotten.
+// When the service is done, a closed panel stays on screen; one that others destroy has children that go
+// after it. Neither tells the manager any more (test "ManagerServiceEnd.ForgetsThePanel").
+void _zo_window_manager::disconnect_panel() {
+    if (!widgets_.window) return;
+    for (GtkWidget* widget : {widgets_.taskbox_left, widgets_.taskbox_center, widgets_.taskbox_right,
+                              widgets_.event_box, widgets_.lock_button, widgets_.window})
+        g_signal_handlers_disconnect_by_data(widget, this);
+}
 
 // Keeps exactly one pixel row of a retracted panel on screen when its height changes.
 void _zo_window_manager::on_panel_allocated(const GtkAllocation& allocation) {
-    if (!widgets_.window) return;
     const int previous_y = widgets_.y;
     const int previous_height = widgets_.panel.height;
     widgets_.panel = part_of(allocation);
@@ -83,9 +89,20 @@ void _zo_window_manager::on_panel_allocated(const GtkAllocation& allocation) {
     shape_input();
 }
 
+// GTK tells of a region that changes, and the right one need not change with the left one: it may stay where
+// it is and as wide as it was. Before its first layout the scroller keeps its first width.
+void _zo_window_manager::on_left_allocated(const GtkAllocation& allocation) {
+    const bool is_changed = widgets_.left.width != allocation.width;
+    widgets_.left = part_of(allocation);
+    if (is_changed && widgets_.right.height > 0) fit_soon();
+}
+
 void _zo_window_manager::on_right_allocated(const GtkAllocation& allocation) {
-    if (!widgets_.window) return;
     widgets_.right = part_of(allocation);
+    fit_soon();
+}
+
+void _zo_window_manager::fit_soon() {
     if (gtk_widget_get_mapped(widgets_.window))
         fitting_.ask([this] { fit_scroller(); });
     else

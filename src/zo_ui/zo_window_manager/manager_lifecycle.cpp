@@ -34,7 +34,7 @@ void _zo_window_manager::show_now() {
     for (const auto& [id, notification] : std::map(manager_notifications_))
         zo::show_notification(*notification);
     gtk_widget_show_all(widgets_.window);
-    if (!is_visible()) return;
+    if (!is_visible() || !widgets_.window) return;
     gtk_window_get_position(GTK_WINDOW(widgets_.window), &widgets_.x, &widgets_.y);
     if (!get_keep_extended()) retract_now();
     if (fn) fn(self);
@@ -108,20 +108,21 @@ void _zo_window_manager::destroy_now() {
 
 // The library's own reference goes when the manager is destroyed and its last window has left.
 void _zo_window_manager::let_go_when_done() {
-    if (is_destroyed() && registered_windows_.empty() && is_reffed()) zo_object_unref(handle());
+    if (!is_destroyed() || released_ || !registered_windows_.empty() || !is_reffed()) return;
+    released_ = true;
+    zo_object_unref(handle());
 }
 
 // A panel that somebody else destroyed ends in the closed state; of a destroyed manager only the widgets are
 // forgotten.
 void _zo_window_manager::on_panel_destroyed(GtkWidget* panel) {
     if (widgets_.window != panel) return;
-    // Its children go next, and still call into the manager.
-    zo_system_service_exec([self = handle()] {}, source::file, source::close);
-    if (!is_destroyed()) return close_now();
+    if (!is_destroyed() && is_opened()) return close_now();
     forget_panel();
 }
 
 void _zo_window_manager::forget_panel() {
+    disconnect_panel();
     zo::panel_widgets kept;
     kept.lock_button = widgets_.lock_button;
     kept.keep_extended = widgets_.keep_extended;
@@ -129,6 +130,7 @@ void _zo_window_manager::forget_panel() {
     kept.y = widgets_.y;
     widgets_ = kept;
     newest_task_ = nullptr;
+    grabbed_inside_ = false;
     forget_tasks();
     fitting_.cancel();
     scrolling_.cancel();

@@ -126,8 +126,11 @@ class _zo_window_manager : public _zo_object, public zo::window_host {
 
     // Handlers of the panel, manager_layout_handlers.cpp.
     void on_panel_allocated(const GtkAllocation& allocation);
+    void on_left_allocated(const GtkAllocation& allocation);
     void on_right_allocated(const GtkAllocation& allocation);
+    void fit_soon();
     void fit_scroller();
+    void disconnect_panel();
     void on_panel_destroyed(GtkWidget* panel);
     void forget_panel();
 
@@ -137,7 +140,7 @@ class _zo_window_manager : public _zo_object, public zo::window_host {
     void place_panel();
     void shape_input();
     int on_crossing(const GdkEventCrossing& event);
-    int pointer_y() const;
+    std::pair<int, int> pointer() const;
     void on_grab_begun();
     void on_grab_ended();
     void on_lock_clicked();
@@ -176,6 +179,7 @@ class _zo_window_manager : public _zo_object, public zo::window_host {
     zo::layout_idle scrolling_;
     bool grabbed_inside_ = false;  // a grab runs that began with the pointer in the panel
     bool destroying_ = false;      // destroy_now has begun
+    bool released_ = false;        // the library's own reference is gone
 };
 
 namespace zo {

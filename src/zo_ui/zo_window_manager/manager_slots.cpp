@@ -7,7 +7,8 @@
 #include <zo_ui/zo_ui_widgets.hpp>
 
 bool _zo_window_manager::add_to_region(GtkWidget* region, GtkWidget* widget) {
-    if (!is_opened() || !region || !GTK_IS_WIDGET(widget) || gtk_widget_get_parent(widget)) return false;
+    if (!is_opened() || !region || !GTK_IS_WIDGET(widget)) return false;
+    if (gtk_widget_get_parent(widget) || gtk_widget_is_toplevel(widget)) return false;
     gtk_box_pack_start(GTK_BOX(region), zo_ui_get_left_padding_widget(widget, true), FALSE, FALSE, 0);
     return true;
 }

@@ -84,6 +84,23 @@ TEST(ManagerDestroy, OfAnEmptyOneLetsGoAtOnce) {
     EXPECT_EQ(manager.use_count(), 1);
 }
 
+// The windows leave inside its callback, and the application has a reference of its own.
+TEST(ManagerDestroy, LetsGoOfItsOwnReferenceOnly) {
+    const handles all;
+    all.join();
+    const zo_object_ptr object = zo_window_manager_to_object(all.manager);
+    zo_window_manager_on_destroy(all.manager, [&](const zo_window_manager_ptr&) {
+        zo_object_ref(object);
+        test::run_tasks();
+        EXPECT_TRUE(is_destroyed(all.a) && is_destroyed(all.b));
+    });
+    zo_window_manager_destroy(all.manager);
+    test::run_tasks();
+    EXPECT_TRUE(is_held(all.manager));
+    if (is_held(all.manager)) zo_object_unref(object);
+    EXPECT_FALSE(is_held(all.manager));
+}
+
 TEST(ManagerDestroy, EmptiesTheCallbacks) {
     const auto held = std::make_shared<int>();
     const test::scoped_panel panel;
@@ -140,6 +157,22 @@ TEST(ManagerDestroy, APanelDestroyedByOthersIsClosed) {
     ASSERT_TRUE(panel.show());
     EXPECT_EQ(test::row(), "a x");
     EXPECT_EQ(closed, 1);
+}
+
+TEST(ManagerDestroy, APanelMayEndWhileItIsShown) {
+    const test::scoped_panel panel;
+    panel.open();
+    int told = 0;
+    zo_window_manager_on_show(panel, [&](const zo_window_manager_ptr&) { ++told; });
+    const auto end = +[](GtkWidget* widget, const test::scoped_panel* shown) {
+        shown->run(zo_window_manager_destroy);
+        gtk_widget_destroy(widget);
+    };
+    g_signal_connect(test::panel(), "show", G_CALLBACK(end), const_cast<test::scoped_panel*>(&panel));
+    panel.run(zo_window_manager_show);
+    EXPECT_TRUE(test::state_of(panel).destroyed);
+    EXPECT_FALSE(test::panel());
+    EXPECT_EQ(told, 0);
 }
 
 TEST(ManagerDestroy, LastHandlesMayGoInsideTheCallbacks) {

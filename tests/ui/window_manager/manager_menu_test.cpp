@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Menus take the pointer's crossings away: the panel looks again when they are gone. And what a retracted
 // panel leaves to the windows under it.
-#include "ui/window_manager/panel.hpp"
+#include "ui/window_manager/menu.hpp"
 
 #include <X11/extensions/shape.h>
 #include <gdk/gdkx.h>
@@ -30,36 +30,9 @@ class ManagerMenu : public testing::Test {
   protected:
     ManagerMenu() { test::move_pointer(zo_ui_screen_x() + 500, below()); }
 
-    // A button that opens a menu under itself.
-    static GtkWidget* menu_button() {
-        GtkWidget* menu = gtk_menu_new();
-        gtk_menu_shell_append(GTK_MENU_SHELL(menu), gtk_menu_item_new_with_label("entry"));
-        gtk_widget_show_all(menu);
-        GtkWidget* button = gtk_menu_button_new();
-        gtk_button_set_label(GTK_BUTTON(button), "menu");
-        gtk_menu_button_set_popup(GTK_MENU_BUTTON(button), menu);
-        gtk_widget_show_all(button);
-        return button;
-    }
-
-    static GtkWidget* menu_of(GtkWidget* button) {
-        return GTK_WIDGET(gtk_menu_button_get_popup(GTK_MENU_BUTTON(button)));
-    }
-
-    // Opens the menu with a click, and takes it away with the pointer at this height.
-    static void use_menu(GtkWidget* button, int y) {
-        test::click(button);
-        ASSERT_TRUE(test::turn_until([&] { return gtk_widget_get_mapped(menu_of(button)); }));
-        test::move_pointer(zo_ui_screen_x() + 500, y);
-        test::settle_desktop();
-        gtk_menu_popdown(GTK_MENU(menu_of(button)));
-        ASSERT_TRUE(test::turn_until([&] { return !gtk_widget_get_mapped(menu_of(button)); }));
-        test::settle_desktop();
-    }
-
     GtkWidget* show_with_menu() const {
         panel.open();
-        GtkWidget* button = menu_button();
+        GtkWidget* button = test::menu_button();
         EXPECT_TRUE(zo_window_manager_add_widget_left(panel, button));
         panel.show();
         test::move_pointer(zo_ui_screen_x() + 500, zo_ui_screen_y());
@@ -72,13 +45,13 @@ class ManagerMenu : public testing::Test {
 
 TEST_F(ManagerMenu, ClosedWithThePointerBelowRetractsThePanel) {
     GtkWidget* button = show_with_menu();
-    use_menu(button, below());
+    test::use_menu(button, below());
     EXPECT_TRUE(test::is_retracted());
 }
 
 TEST_F(ManagerMenu, ClosedWithThePointerInsideLeavesThePanel) {
     GtkWidget* button = show_with_menu();
-    use_menu(button, zo_ui_screen_y() + 5);
+    test::use_menu(button, zo_ui_screen_y() + 5);
     EXPECT_TRUE(test::is_extended());
     test::move_pointer(zo_ui_screen_x() + 500, below());
     EXPECT_TRUE(test::is_retracted());
@@ -87,21 +60,21 @@ TEST_F(ManagerMenu, ClosedWithThePointerInsideLeavesThePanel) {
 TEST_F(ManagerMenu, AKeptPanelStays) {
     GtkWidget* button = show_with_menu();
     panel.keep_extended(true);
-    use_menu(button, below());
+    test::use_menu(button, below());
     EXPECT_TRUE(test::is_extended());
 }
 
 TEST_F(ManagerMenu, AMenuOfAWindowLeavesThePanelAlone) {
     panel.show();
     GtkWidget* window = gtk_window_new(GTK_WINDOW_POPUP);
-    GtkWidget* button = menu_button();
+    GtkWidget* button = test::menu_button();
     gtk_container_add(GTK_CONTAINER(window), button);
     gtk_window_move(GTK_WINDOW(window), zo_ui_screen_x() + 300, zo_ui_screen_y() + 300);
     gtk_widget_show_all(window);
     ASSERT_TRUE(test::turn_until([&] { return test::is_on_screen(window); }));
     panel.run(zo_window_manager_extend);
     EXPECT_TRUE(test::is_extended());
-    use_menu(button, below());
+    test::use_menu(button, below());
     EXPECT_TRUE(test::is_extended());
     gtk_widget_destroy(window);
 }
@@ -130,6 +103,48 @@ TEST_F(ManagerMenu, ARetractedPanelTakesThePointerInItsLastRowOnly) {
     EXPECT_TRUE(test::is_retracted());
     const int height = test::place_of(test::panel()).height;
     EXPECT_EQ(input_shape(), (std::vector<test::place>{{0, height - 1, place.width, 1}}));
+}
+
+// Else a window under it would see the pointer come and go.
+TEST_F(ManagerMenu, SlidingOutUnderThePointerIsNotFeltBelow) {
+    GtkWidget* under = gtk_window_new(GTK_WINDOW_POPUP);
+    gtk_widget_set_size_request(under, 400, 200);
+    gtk_window_move(GTK_WINDOW(under), zo_ui_screen_x() + 300, zo_ui_screen_y());
+    gtk_widget_add_events(under, GDK_ENTER_NOTIFY_MASK);
+    int entered = 0;
+    g_signal_connect_swapped(under, "enter-notify-event",
+                             G_CALLBACK(+[](int* count) -> gboolean { return ++*count > 0; }), &entered);
+    gtk_widget_show(under);
+    ASSERT_TRUE(test::turn_until([&] { return test::is_on_screen(under); }));
+    panel.show();
+    EXPECT_TRUE(test::is_retracted());
+    gdk_window_raise(gtk_widget_get_window(test::panel()));
+    test::move_pointer(zo_ui_screen_x() + 500, zo_ui_screen_y());
+    EXPECT_TRUE(test::is_extended());
+    EXPECT_EQ(entered, 0);
+    test::move_pointer(zo_ui_screen_x() + 500, zo_ui_screen_y() + 150);
+    EXPECT_TRUE(test::turn_until([&] { return entered > 0; }));
+    gtk_widget_destroy(under);
+}
+
+// The grab that the closed panel has seen begin is nothing to the next one.
+TEST_F(ManagerMenu, AMenuOfAClosedPanelIsForgotten) {
+    GtkWidget* menu = test::menu_of(show_with_menu());
+    g_object_ref(menu);
+    test::click(gtk_menu_get_attach_widget(GTK_MENU(menu)));
+    ASSERT_TRUE(test::turn_until([&] { return gtk_widget_get_mapped(menu); }));
+    panel.close();
+    g_object_unref(menu);
+    GtkWidget* grabbing = gtk_invisible_new();
+    gtk_grab_add(grabbing);
+    panel.keep_extended(true);
+    panel.show();
+    panel.keep_extended(false);
+    test::move_pointer(zo_ui_screen_x() + 500, below());
+    test::settle_desktop();
+    gtk_grab_remove(grabbing);
+    EXPECT_TRUE(test::is_extended());
+    gtk_widget_destroy(grabbing);
 }
 
 }  // namespace

@@ -17,6 +17,13 @@ int x_in_panel(GtkWidget* widget) {
     return x;
 }
 
+GtkWidget* block(int width) {
+    GtkWidget* box = gtk_box_new(GTK_ORIENTATION_HORIZONTAL, 0);
+    gtk_widget_set_size_request(box, width, 10);
+    gtk_widget_show(box);
+    return box;
+}
+
 TEST(ManagerRightToLeft, IsMirrored) {
     const test::scoped_panel panel;
     panel.keep_extended(true);
@@ -38,6 +45,34 @@ TEST(ManagerRightToLeft, IsMirrored) {
     EXPECT_TRUE(test::turn_until([&] { return !test::state_of(a.get()).visible; }));
     test::move_pointer(zo_ui_screen_x() + 500, zo_ui_screen_y() + 500);
     EXPECT_TRUE(test::is_retracted());
+}
+
+// Whatever stands at its ends, and whenever it came there.
+TEST(ManagerRightToLeft, StaysAsWideAsTheScreen) {
+    const test::scoped_panel panel;
+    panel.keep_extended(true);
+    panel.show();
+    // Once the widget has been laid out.
+    const auto fits_with = [](GtkWidget* widget) {
+        EXPECT_TRUE(test::turn_until([&] { return gtk_widget_get_allocated_width(widget) > 1; }));
+        test::settle_desktop();
+        return test::turn_until([] { return test::place_of(test::panel()).width == zo_ui_screen_width(); },
+                                std::chrono::seconds(2));
+    };
+    GtkWidget* left = block(60);
+    GtkWidget* right = block(90);
+    EXPECT_TRUE(zo_window_manager_add_widget_left(panel, left));
+    EXPECT_TRUE(fits_with(left)) << test::place_of(test::panel());
+    EXPECT_TRUE(zo_window_manager_add_widget_right(panel, right));
+    EXPECT_TRUE(fits_with(right)) << test::place_of(test::panel());
+    EXPECT_GT(x_in_panel(left), x_in_panel(right));
+    EXPECT_GT(x_in_panel(left), x_in_panel(test::part("lock-locked")));
+    EXPECT_TRUE(zo_window_manager_remove_widget_left(panel, left));
+    GtkWidget* toolbar = block(10);
+    EXPECT_TRUE(zo_window_manager_add_toolbar(panel, GTK_BOX(toolbar)));
+    EXPECT_TRUE(fits_with(toolbar)) << test::place_of(test::panel());
+    EXPECT_TRUE(test::is_extended());
+    EXPECT_EQ(gtk_widget_get_allocated_width(toolbar), zo_ui_screen_width());
 }
 
 TEST(ManagerRightToLeft, ANewButtonIsScrolledIntoView) {

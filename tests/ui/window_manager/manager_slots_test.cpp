@@ -101,6 +101,7 @@ TEST_P(ManagerSlots, ALabelStaysWhereItIs) {
 
 TEST_P(ManagerSlots, RefuseStrangers) {
     panel.open();
+    const std::size_t paddings = test::children(region_widget()).size();
     const held alone(box_new());
     const held parent(box_new());
     GtkWidget* child = box_new();
@@ -112,8 +113,12 @@ TEST_P(ManagerSlots, RefuseStrangers) {
                                 static_cast<GtkWidget*>(nullptr)})
         EXPECT_FALSE(remove(stranger));
     EXPECT_EQ(gtk_widget_get_parent(child), parent);
-    for (GtkWidget* taken : {child, elsewhere, static_cast<GtkWidget*>(nullptr)}) EXPECT_FALSE(add(taken));
+    const held window(gtk_window_new(GTK_WINDOW_TOPLEVEL));
+    for (GtkWidget* taken :
+         {child, elsewhere, static_cast<GtkWidget*>(window), test::panel(), static_cast<GtkWidget*>(nullptr)})
+        EXPECT_FALSE(add(taken));
     EXPECT_EQ(gtk_widget_get_parent(child), parent);
+    EXPECT_EQ(test::children(region_widget()).size(), paddings);
     EXPECT_TRUE(contents().empty());
     EXPECT_EQ(output.text(), "");
 }
