@@ -2,6 +2,8 @@
 #include "support/desktop.hpp"
 #include "support/ui.hpp"
 
+#include <cstdlib>
+
 namespace {
 
 std::vector<int> cached() {
@@ -18,6 +20,12 @@ std::vector<int> read_now() {
     return {screen.x, screen.y, screen.width, screen.height, work.x, work.y, work.width, work.height};
 }
 
+// The geometry is GTK's: in its logical pixels, not in the device's.
+int scale() {
+    const char* text = std::getenv("GDK_SCALE");
+    return text ? std::atoi(text) : 1;
+}
+
 // A mode of this name and these timings, in the order of xrandr's own list, on the private X server's one
 // output.
 void set_mode(const std::string& name, const std::vector<std::string>& timings) {
@@ -30,17 +38,18 @@ void set_mode(const std::string& name, const std::vector<std::string>& timings) 
 
 TEST(Screen, IsThatOfTheFirstMonitor) {
     EXPECT_EQ(cached(), read_now());
-    EXPECT_EQ(zo_ui_screen_width(), 1920);
-    EXPECT_EQ(zo_ui_screen_height(), 1080);
+    EXPECT_EQ(zo_ui_screen_width(), 1920 / scale());
+    EXPECT_EQ(zo_ui_screen_height(), 1080 / scale());
 }
 
 TEST(Screen, KeepsTheValuesOfTheStart) {
     const std::vector<int> before = cached();
     set_mode("small", {"60", "1024", "1048", "1184", "1344", "768", "771", "777", "806"});
-    EXPECT_TRUE(test::turn_until([&] { return read_now()[2] == 1024; }));
+    EXPECT_TRUE(test::turn_until([&] { return read_now()[2] == 1024 / scale(); }));
     EXPECT_EQ(cached(), before);
     test::run_command({"xrandr", "--output", "screen", "--mode", "1920x1080"});
-    EXPECT_TRUE(test::turn_until([&] { return read_now()[2] == 1920 && read_now()[6] == 1920; }));
+    EXPECT_TRUE(
+        test::turn_until([&] { return read_now()[2] == 1920 / scale() && read_now()[6] == 1920 / scale(); }));
     zo_ui_init();
     EXPECT_EQ(cached(), read_now());
 }
