@@ -6,6 +6,8 @@
 #include <gtest/gtest.h>
 #include <zo_ui/zo_ui.hpp>
 
+#include <cstdlib>
+
 namespace {
 
 TEST(Displayless, InitLeavesZeros) {
@@ -38,6 +40,29 @@ TEST(Displayless, APanelReportsAndStaysClosed) {
     zo_window_manager_is_opened(manager, &opened);
     EXPECT_FALSE(opened);
     zo_window_manager_destroy(manager);
+}
+
+// Sheets are loaded, and shown nowhere.
+TEST(Displayless, ThemesLoadAndGo) {
+    zo_theme_set_theme_path(std::string(std::getenv("ZO_SOURCE_DIR")) + "/share/themes/brevant/");
+    test::captured_output output;
+    GError* error = reinterpret_cast<GError*>(1);
+    zo_theme_use_theme("brevant", error);
+    EXPECT_EQ(error, nullptr);
+    zo_theme_add_css_permanent("style.css", error);
+    EXPECT_EQ(error, nullptr);
+    EXPECT_EQ(output.text(), "");
+    for (const auto load : {zo_theme_use_theme, zo_theme_add_css_permanent}) {
+        load("missing", error);
+        EXPECT_NE(error, nullptr);
+        g_clear_error(&error);
+    }
+    EXPECT_EQ(output.lines().size(), 2U) << output.text();
+    zo_theme_use_theme("brevant", error);
+    EXPECT_EQ(error, nullptr);
+    EXPECT_EQ(zo_theme_get_theme_name(), "brevant");
+    zo_theme_uninit();
+    zo_theme_uninit();
 }
 
 }  // namespace

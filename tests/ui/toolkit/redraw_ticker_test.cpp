@@ -68,4 +68,25 @@ TEST(RedrawTicker, ForgetsAWidgetThatIsDestroyed) {
     EXPECT_TRUE(test::turn_until([&] { return stays.frames >= begin + 3; }));
 }
 
+std::vector<GtkWidget*> queued;
+void (*queue_of_gtk)(GtkWidget*, const cairo_region_t*) = nullptr;
+
+// In the order in which they were added, whatever order they have on the screen.
+TEST(RedrawTicker, GoesRoundInTheOrderOfAdding) {
+    drawn_window windows[3];
+    auto* kind = GTK_WIDGET_GET_CLASS(windows[0].area);
+    queue_of_gtk = kind->queue_draw_region;
+    kind->queue_draw_region = [](GtkWidget* widget, const cairo_region_t* region) {
+        queued.push_back(widget);
+        queue_of_gtk(widget, region);
+    };
+    const std::vector<GtkWidget*> order{windows[1].area, windows[2].area, windows[0].area};
+    for (GtkWidget* area : order) zo_ui_add_fps_widget(area);
+    zo_ui_set_fps(200);
+    queued.clear();
+    EXPECT_TRUE(test::turn_until([&] { return queued.size() >= 6; }));
+    kind->queue_draw_region = queue_of_gtk;
+    for (std::size_t i = 0; i < 6 && i < queued.size(); ++i) EXPECT_EQ(queued[i], order[i % 3]) << i;
+}
+
 }  // namespace

@@ -126,4 +126,34 @@ TEST_F(Theme, PermanentSheetsStayAndTheLastAddedWins) {
     g_clear_error(&error);
 }
 
+TEST_F(Theme, AFileThatCannotBeReadIsAnError) {
+    const std::string plain = colour();
+    fs::create_directories(folder_ / "folder" / "style.css");
+    write_theme("one", "red");
+    EXPECT_TRUE(use("one"));
+    test::captured_output output;
+    EXPECT_FALSE(use("folder"));
+    EXPECT_EQ(output.lines().size(), 1U) << "GTK's own message of it, and nothing else: " << output.text();
+    EXPECT_EQ(colour(), plain);
+    EXPECT_EQ(zo_theme_get_theme_name(), "folder");
+}
+
+TEST_F(Theme, APermanentSheetThatFailsLeavesTheThemeAlone) {
+    write_theme("one", "red");
+    write("bad.css", ".theme-test { color: blue; nonsense: 1; }");
+    fs::create_directories(folder_ / "folder.css");
+    EXPECT_TRUE(use("one"));
+    for (const char* file : {"missing.css", "folder.css", "bad.css"}) {
+        test::captured_output output;
+        GError* error = nullptr;
+        zo_theme_add_css_permanent(file, error);
+        EXPECT_NE(error, nullptr) << file;
+        g_clear_error(&error);
+        EXPECT_EQ(colour(), red) << file;
+        EXPECT_EQ(zo_theme_get_theme_name(), "one");
+    }
+    EXPECT_TRUE(use("one")) << "the theme is replaced as ever";
+    EXPECT_EQ(colour(), red);
+}
+
 }  // namespace
