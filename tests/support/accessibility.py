@@ -5,6 +5,7 @@
   accessibility.py APP names         the role and name of everything that can be pressed, one a line;
                                      nothing when the program has not joined the accessibility bus yet
   accessibility.py APP press NAME    presses the first of these with that name
+  accessibility.py APP notifications the role, name and description of every notification, one a line
 APP is the program's name.
 """
 import sys
@@ -28,10 +29,15 @@ def walk(node):
 
 application, action, *name = sys.argv[1:]
 programs = [program for program in children(Atspi.get_desktop(0)) if program.get_name() == application]
-nodes = [node for program in programs for node in walk(program) if node.get_action_iface()]
+everything = [node for program in programs for node in walk(program)]
+nodes = [node for node in everything if node.get_action_iface()]
 if action == "names":
     for node in nodes:
         print(node.get_role_name() + ": " + node.get_name())
+elif action == "notifications":
+    for node in everything:
+        if node.get_role() == Atspi.Role.NOTIFICATION:
+            print(": ".join([node.get_role_name(), node.get_name(), node.get_description()]))
 else:
     for node in nodes:
         if node.get_name() == name[0]:

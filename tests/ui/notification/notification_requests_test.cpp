@@ -1,0 +1,55 @@
+// SPDX-License-Identifier: MIT
+// Placing a popup and closing gaps ask the server for nothing, however many there are: X requests counted.
+#include "ui/notification/popup.hpp"
+
+#include <zo_ui/zo_notification/notification_p.hpp>
+
+#include <gdk/gdkx.h>
+#include <memory>
+
+namespace {
+
+using stack = std::vector<std::unique_ptr<test::scoped_notification>>;
+
+unsigned long requests() { return NextRequest(GDK_DISPLAY_XDISPLAY(gdk_display_get_default())); }
+
+stack show(int count) {
+    stack all;
+    for (int i = 0; i < count; ++i) {
+        all.push_back(std::make_unique<test::scoped_notification>(std::to_string(i)));
+        all.back()->show();
+    }
+    test::settle_desktop();
+    return all;
+}
+
+// Of one that is shown below `count` others.
+unsigned long requests_of_showing(int count) {
+    const stack all = show(count);
+    const test::scoped_notification next("next");
+    next.get()->_open();
+    gtk_widget_realize(next.popup());
+    const unsigned long before = requests();
+    next.get()->_show();
+    return requests() - before;
+}
+
+// Of the last one's leaving, when nobody has to move.
+unsigned long requests_of_leaving(int count) {
+    const stack all = show(count);
+    const unsigned long before = requests();
+    all.back()->get()->close_for_good();
+    return requests() - before;
+}
+
+TEST(NotificationRequests, ShowingDoesNotGrowWithTheStack) {
+    requests_of_showing(1);  // what the toolkit does the first time
+    EXPECT_EQ(requests_of_showing(30), requests_of_showing(1));
+}
+
+TEST(NotificationRequests, LeavingMovesOnlyThoseBelow) {
+    requests_of_leaving(1);
+    EXPECT_EQ(requests_of_leaving(30), requests_of_leaving(1));
+}
+
+}  // namespace

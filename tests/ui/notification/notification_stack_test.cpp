@@ -1,0 +1,70 @@
+// SPDX-License-Identifier: MIT
+// The stack of the process: below one another with a gap of 2, and moved up when one leaves.
+#include "ui/notification/popup.hpp"
+
+#include <memory>
+
+namespace {
+
+constexpr int x = 50;
+constexpr int top = 75;
+constexpr int gap = 2;
+
+int below(GtkWidget* popup) { return test::spot_of(popup).y + test::height_of(popup) + gap; }
+
+TEST(NotificationStack, EachStandsBelowTheOneBefore) {
+    const test::scoped_notification first("1", "one");
+    const test::scoped_notification second("2", "two\nlines");
+    const test::scoped_notification third("3", "three");
+    GtkWidget* a = first.show();
+    GtkWidget* b = second.show();
+    GtkWidget* c = third.show();
+    EXPECT_TRUE(test::comes_to(a, {x, top})) << test::spot_of(a);
+    EXPECT_TRUE(test::comes_to(b, {x, below(a)})) << test::spot_of(b);
+    EXPECT_TRUE(test::comes_to(c, {x, below(b)})) << test::spot_of(c);
+    EXPECT_GT(test::height_of(b), test::height_of(a));
+    EXPECT_TRUE(test::turn_until([&] { return test::is_on_screen(c); }));
+}
+
+TEST(NotificationStack, ClosingTheMiddleOneClosesTheGap) {
+    const test::scoped_notification first("1", "one");
+    const test::scoped_notification second("2", "two\nlines");
+    const test::scoped_notification third("3", "three");
+    GtkWidget* a = first.show();
+    second.show();
+    GtkWidget* c = third.show();
+    second.close();
+    EXPECT_FALSE(second.popup());
+    EXPECT_TRUE(test::comes_to(c, {x, below(a)})) << test::spot_of(c);
+    EXPECT_EQ(test::spot_of(a), (test::spot{x, top}));
+    first.close();
+    EXPECT_TRUE(test::comes_to(c, {x, top}));
+}
+
+TEST(NotificationStack, IsInTheOrderOfMaking) {
+    const test::scoped_notification first("1");
+    const test::scoped_notification second("2");
+    const test::scoped_notification third("3");
+    GtkWidget* c = third.show();
+    GtkWidget* a = first.show();  // the whole stack counts: below the one that is there
+    EXPECT_TRUE(test::comes_to(a, {x, below(c)}));
+    GtkWidget* b = second.show();
+    EXPECT_TRUE(test::comes_to(b, {x, below(a)}));
+    third.close();  // and closing sorts them
+    EXPECT_TRUE(test::comes_to(a, {x, top}));
+    EXPECT_TRUE(test::comes_to(b, {x, below(a)}));
+}
+
+TEST(NotificationStack, ALongOneNeverComesInAgainFromAbove) {
+    std::vector<std::unique_ptr<test::scoped_notification>> all;
+    for (int i = 0; i < 50; ++i)
+        all.push_back(std::make_unique<test::scoped_notification>(
+            std::to_string(i), std::string(60, '\n') + "the end of a long one"));
+    for (const auto& one : all) one->show();
+    for (const auto& one : all) EXPECT_GE(test::spot_of(one->popup()).y, top);
+    EXPECT_GT(test::spot_of(all.back()->popup()).y, 30000);
+    while (all.size() > 1) all.erase(all.begin());
+    EXPECT_TRUE(test::comes_to(all[0]->popup(), {x, top}));
+}
+
+}  // namespace
