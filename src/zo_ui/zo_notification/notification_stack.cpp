@@ -52,7 +52,7 @@ void zo::note_place(GtkWidget* popup, popup_place* place) {
 }
 
 void zo::move_popup(GtkWidget* popup, popup_place& place, int x, int y) {
-    const bool there = place.x == x && place.y == y;
+    const bool there = place.x == x && place.y == y && gtk_widget_get_mapped(popup);
     place.x = x;
     place.y = y;
     if (!there) gtk_window_move(GTK_WINDOW(popup), x, on_the_server(popup, y));

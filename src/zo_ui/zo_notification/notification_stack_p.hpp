@@ -12,7 +12,7 @@ popup_container& global_notification_container();
 // Notes the library's own record of a popup's place with the popup; null takes it away.
 void note_place(GtkWidget* popup, popup_place* place);
 
-// Moves a popup that has a record. A place that it has already costs nothing.
+// Moves a popup that has a record. A place that it has on screen already costs nothing.
 void move_popup(GtkWidget* popup, popup_place& place, int x, int y);
 
 // The y below all popups older than `id`, or, with `whole`, below every other one.

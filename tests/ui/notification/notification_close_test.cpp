@@ -98,6 +98,7 @@ TEST_F(NotificationClose, AnEmptyActionIsFatal) {
             std::_Exit(3);
         }
     };
+    GTEST_FLAG_SET(death_test_style, "threadsafe");  // with a connection of its own to the server
     EXPECT_EXIT(press(), testing::ExitedWithCode(3), "");
 }
 
