@@ -13,6 +13,7 @@
 #include <zo_ui/zo_window/window_types_p.hpp>
 
 #include <boost/smart_ptr/atomic_shared_ptr.hpp>
+#include <optional>
 #include <utility>
 
 class _zo_window : public _zo_object {
@@ -110,6 +111,7 @@ class _zo_window : public _zo_object {
     void connect_toplevel();
     void apply_fixed_classes();
     void keep_above();
+    void move_now(int x, int y);
     void hide_in_place();
 
     // Handlers of the tree, window_tree_handlers.cpp.
@@ -137,7 +139,7 @@ class _zo_window : public _zo_object {
     void on_menu_clicked();
     void open_tool_menu(GtkWidget* grid);
     void style_tool_menu(GtkWidget* menu);
-    void bind_tool_menu_buttons(GtkGrid* grid);
+    static void bind_tool_menu_buttons(GtkGrid* grid, GtkWidget* menu);
     bool on_tool_menu_left(const GdkEventCrossing& event);
     bool on_tool_menu_key(const GdkEventKey& event);
 
@@ -167,7 +169,8 @@ class _zo_window : public _zo_object {
     bool centring_ = false;      // the un-maximised size may still be on its way
     int centred_width_ = 0;      // the size it was centred for
     int centred_height_ = 0;
-    bool destroying_ = false;  // _destroy is running: nothing opens the window again
+    std::optional<std::pair<int, int>> asked_place_;  // moved there; the toplevel may not be there yet
+    bool destroying_ = false;                         // _destroy is running: nothing opens the window again
 };
 
 namespace zo {

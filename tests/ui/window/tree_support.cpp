@@ -23,12 +23,16 @@ bool test::has_handler(GtkWidget* widget, const char* signal) {
     return g_signal_handler_find(widget, G_SIGNAL_MATCH_ID, id, 0, nullptr, nullptr, nullptr) != 0;
 }
 
-guint test::own_handlers(const zo_window_ptr& window, GtkWidget* widget, const char* signal) {
+guint test::handlers_of(gpointer data, GtkWidget* widget, const char* signal) {
     const guint id = g_signal_lookup(signal, G_OBJECT_TYPE(widget));
     const auto match = static_cast<GSignalMatchType>(G_SIGNAL_MATCH_ID | G_SIGNAL_MATCH_DATA);
-    const guint found = g_signal_handlers_block_matched(widget, match, id, 0, nullptr, nullptr, window.get());
-    g_signal_handlers_unblock_matched(widget, match, id, 0, nullptr, nullptr, window.get());
+    const guint found = g_signal_handlers_block_matched(widget, match, id, 0, nullptr, nullptr, data);
+    g_signal_handlers_unblock_matched(widget, match, id, 0, nullptr, nullptr, data);
     return found;
+}
+
+guint test::own_handlers(const zo_window_ptr& window, GtkWidget* widget, const char* signal) {
+    return handlers_of(window.get(), widget, signal);
 }
 
 void test::enable_title_buttons(const zo_window_ptr& window, bool enabled) {

@@ -20,7 +20,8 @@ packing packing_of(GtkWidget* child);
 // Is a handler connected to this signal of this one widget?
 bool has_handler(GtkWidget* widget, const char* signal);
 
-// How many handlers the window itself connected to it.
+// How many handlers with this user data are connected to it, and how many the window itself connected.
+guint handlers_of(gpointer data, GtkWidget* widget, const char* signal);
 guint own_handlers(const zo_window_ptr& window, GtkWidget* widget, const char* signal);
 
 // All seven buttons of the title bar.

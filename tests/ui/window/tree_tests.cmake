@@ -15,15 +15,18 @@ tree_test(window_tree_test window_tree_popup_test window_tree_toplevel_test wind
   window_maximise_test window_size_test window_title_test window_title_theme_test window_title_text_test
   window_title_clicks_test window_title_ending_test window_title_keys_test
   window_photo_test window_tool_menu_test window_tool_menu_grid_test window_tool_menu_closing_test
-  window_tool_menu_keys_test window_active_test window_drag_test
+  window_tool_menu_keys_test window_tool_menu_kept_test window_tool_menu_place_test window_active_test window_drag_test
   window_accessibility_test)
 
 zo_ui_inner_test(window/window_drag_target_test)
 target_link_libraries(window_drag_target_test PRIVATE window_tree_support)
 
 # Once more on a screen with two device pixels to a pixel.
-foreach(wm openbox none)
-  add_test(NAME window_photo_test.scale2.${wm}
-    COMMAND ${session} -w ${wm} -- ${ENV_PROGRAM} ${test_environment} GDK_SCALE=2 $<TARGET_FILE:window_photo_test>)
-  set_tests_properties(window_photo_test.scale2.${wm} PROPERTIES TIMEOUT 300)
+foreach(name window_photo_test window_tool_menu_test window_tool_menu_place_test window_drag_test window_maximise_test
+    window_move_test window_place_test)
+  foreach(wm openbox none)
+    add_test(NAME ${name}.scale2.${wm}
+      COMMAND ${session} -w ${wm} -- ${ENV_PROGRAM} ${test_environment} GDK_SCALE=2 $<TARGET_FILE:${name}>)
+    set_tests_properties(${name}.scale2.${wm} PROPERTIES TIMEOUT 300)
+  endforeach()
 endforeach()

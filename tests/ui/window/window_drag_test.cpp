@@ -29,6 +29,9 @@ class WindowDrag : public test::ToolMenu {
 
     GtkWidget* label() { return test::find_class(toplevel_, "title-text"); }
 
+    // The pointer is counted in the device's pixels, the window's place in logical ones.
+    int scale() const { return gtk_widget_get_scale_factor(toplevel_); }
+
     // Presses on a widget's middle, drags, and lets go.
     void drag(GtkWidget* widget, int x, int y, int button = 1) {
         const test::point from = test::middle_of(widget);
@@ -37,7 +40,7 @@ class WindowDrag : public test::ToolMenu {
         test::press_button(button);
         test::settle_desktop();
         for (const int part : {4, 2, 1}) {
-            test::move_pointer(from.x + x / part, from.y + y / part);
+            test::move_pointer(from.x + scale() * x / part, from.y + scale() * y / part);
             test::settle_desktop();
         }
         test::release_button(button);
@@ -69,11 +72,12 @@ TEST_F(WindowDrag, WorksFromTheEmptyBar) {
     show_at(300, 200);
     const test::point middle = test::middle_of(label());
     GtkWidget* box = test::find_class(toplevel_, "title-event-box");
-    test::move_pointer(middle.x - gtk_widget_get_allocated_width(box) / 4, middle.y);
+    const int x = middle.x - scale() * gtk_widget_get_allocated_width(box) / 4;
+    test::move_pointer(x, middle.y);
     test::press_button();
     test::settle_desktop();
     for (const int part : {1, 2}) {
-        test::move_pointer(middle.x - gtk_widget_get_allocated_width(box) / 4 + 20 * part, middle.y);
+        test::move_pointer(x + scale() * 20 * part, middle.y);
         test::settle_desktop();
     }
     test::release_button();

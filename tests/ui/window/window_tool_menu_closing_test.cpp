@@ -82,11 +82,18 @@ TEST_F(WindowToolMenuClosing, EveryLeaveButIntoAChildAndByAGrab) {
         GdkNotifyType detail;
         GdkCrossingMode mode;
         bool closes;
-    } cases[] = {
-        {GDK_NOTIFY_INFERIOR, GDK_CROSSING_NORMAL, false}, {GDK_NOTIFY_INFERIOR, GDK_CROSSING_UNGRAB, false},
-        {GDK_NOTIFY_NONLINEAR, GDK_CROSSING_GRAB, false},  {GDK_NOTIFY_ANCESTOR, GDK_CROSSING_GRAB, false},
-        {GDK_NOTIFY_NONLINEAR, GDK_CROSSING_NORMAL, true}, {GDK_NOTIFY_ANCESTOR, GDK_CROSSING_NORMAL, true},
-        {GDK_NOTIFY_VIRTUAL, GDK_CROSSING_NORMAL, true},   {GDK_NOTIFY_NONLINEAR, GDK_CROSSING_UNGRAB, true}};
+    } cases[] = {{GDK_NOTIFY_INFERIOR, GDK_CROSSING_NORMAL, false},
+                 {GDK_NOTIFY_INFERIOR, GDK_CROSSING_UNGRAB, false},
+                 {GDK_NOTIFY_NONLINEAR, GDK_CROSSING_GRAB, false},
+                 {GDK_NOTIFY_ANCESTOR, GDK_CROSSING_GRAB, false},
+                 {GDK_NOTIFY_NONLINEAR, GDK_CROSSING_NORMAL, true},
+                 {GDK_NOTIFY_ANCESTOR, GDK_CROSSING_NORMAL, true},
+                 {GDK_NOTIFY_VIRTUAL, GDK_CROSSING_NORMAL, true},
+                 {GDK_NOTIFY_NONLINEAR, GDK_CROSSING_UNGRAB, true},
+                 {GDK_NOTIFY_NONLINEAR, GDK_CROSSING_GTK_GRAB, false},
+                 {GDK_NOTIFY_NONLINEAR, GDK_CROSSING_GTK_UNGRAB, true},
+                 {GDK_NOTIFY_NONLINEAR, GDK_CROSSING_STATE_CHANGED, true},
+                 {GDK_NOTIFY_INFERIOR, GDK_CROSSING_STATE_CHANGED, false}};
     for (const auto& row : cases) {
         open_menu();
         EXPECT_EQ(leave(row.detail, row.mode) != FALSE, row.closes) << row.detail << " " << row.mode;
@@ -132,8 +139,12 @@ TEST_F(WindowToolMenuClosing, ItsOwnEndFromOutsideIsNoticed) {
     gtk_widget_destroy(open_menu());
     EXPECT_EQ(menu(), nullptr);
     zo_window_hide(window_);
+    test::run_tasks();
+    test::settle_desktop();
     zo_window_show(window_);
     test::run_tasks();
+    ASSERT_TRUE(test::turn_until([&] { return test::is_on_screen(toplevel_); }));
+    test::settle_desktop();
     EXPECT_NE(open_menu(), nullptr);
     EXPECT_EQ(filled_, 2);
 }

@@ -145,11 +145,54 @@ TEST_F(WindowToolMenu, MayBeFilledFromALoopOfItsOwn) {
     EXPECT_EQ(filled_, 2);
 }
 
-TEST_F(WindowToolMenu, OfAHiddenWindowDoesNotOpen) {
+TEST_F(WindowToolMenu, HiddenByItsOwnHandlerDoesNotOpen) {
+    show([this](GtkGrid* grid) {
+        test::attach_button(grid, "Open", 0, 0);
+        zo_window_hide(window_);
+        test::run_tasks();
+    });
+    gtk_button_clicked(GTK_BUTTON(menu_button()));
+    test::run_tasks();
+    EXPECT_EQ(filled_, 1);
+    EXPECT_EQ(menu(), nullptr);
+    EXPECT_FALSE(test::state_of(window_).visible);
+}
+
+TEST_F(WindowToolMenu, ShownByItsOwnHandlerDoesNotOpen) {
+    zo_window_set_enable_title_menu(window_, true);
+    set_fill([this](GtkGrid*) {
+        zo_window_show(window_);
+        test::run_tasks();
+    });
+    toplevel_ = window_.open();
+    gtk_button_clicked(GTK_BUTTON(menu_button()));
+    EXPECT_EQ(menu(), nullptr) << "what was known before the handler is not so any more";
+    EXPECT_TRUE(test::state_of(window_).visible);
+}
+
+TEST_F(WindowToolMenu, OfAHiddenWindowOpens) {
     show(one_button);
     zo_window_hide(window_);
     test::run_tasks();
     gtk_button_clicked(GTK_BUTTON(menu_button()));
+    test::run_tasks();
+    EXPECT_NE(menu(), nullptr);
+    EXPECT_FALSE(test::state_of(window_).visible);
+}
+
+TEST_F(WindowToolMenu, OfAWindowThatWasNeverShownOpens) {
+    zo_window_set_enable_title_menu(window_, true);
+    set_fill(one_button);
+    toplevel_ = window_.open();
+    gtk_button_clicked(GTK_BUTTON(menu_button()));
+    ASSERT_NE(menu(), nullptr);
+    EXPECT_TRUE(gtk_widget_get_visible(menu()));
+    GtkWidget* button = test::find_class(menu(), "tool-menu-button");
+    gtk_button_clicked(GTK_BUTTON(button));
+    EXPECT_EQ(menu(), nullptr);
+    gtk_button_clicked(GTK_BUTTON(menu_button()));
+    EXPECT_NE(menu(), nullptr);
+    zo_window_close(window_);
     test::run_tasks();
     EXPECT_EQ(menu(), nullptr);
 }
