@@ -2,6 +2,8 @@
 // The tool menu by keyboard. A popup never has the keyboard focus: the keys come to the window under it.
 #include <zo_ui/zo_window/window_p.hpp>
 
+#include <zo_ui/zo_window/window_hold_p.hpp>
+
 #include <algorithm>
 #include <optional>
 
@@ -32,9 +34,11 @@ std::optional<GtkDirectionType> direction_of(guint key) {
 // Has a key gone into the menu yet? Before, GTK keeps the first widget's focus ready, which nobody sees.
 bool is_entered(GtkWidget* menu) { return gtk_window_has_toplevel_focus(GTK_WINDOW(menu)); }
 
-// Makes GTK draw the focus in a window that the X server never gives it to.
+// Makes GTK draw the focus in a window that the X server never gives it to. Handlers of the application hear
+// of each step, and may take the menu away.
 void enter(GtkWidget* menu) {
     gtk_window_set_focus(GTK_WINDOW(menu), nullptr);
+    if (!gtk_widget_get_window(menu)) return;
     GdkEvent* event = gdk_event_new(GDK_FOCUS_CHANGE);
     event->focus_change.window = GDK_WINDOW(g_object_ref(gtk_widget_get_window(menu)));
     event->focus_change.in = TRUE;
@@ -52,7 +56,7 @@ void move_focus(GtkWidget* menu, GtkDirectionType direction) {
             direction == GTK_DIR_UP || direction == GTK_DIR_LEFT || direction == GTK_DIR_TAB_BACKWARD;
         direction = backward ? GTK_DIR_TAB_BACKWARD : GTK_DIR_TAB_FORWARD;
     }
-    gtk_widget_child_focus(menu, direction);
+    if (gtk_widget_get_realized(menu)) gtk_widget_child_focus(menu, direction);
 }
 
 // With Shift alone a key is the menu's, as without: the backward Tab has it.
@@ -63,7 +67,8 @@ bool has_modifier(const GdkEventKey& event) {
 }  // namespace
 
 bool _zo_window::on_tool_menu_key(const GdkEventKey& event) {
-    GtkWidget* const menu = widgets_.tool_menu;
+    const zo::held_widget held = zo::hold(widgets_.tool_menu);
+    GtkWidget* const menu = held.get();
     if (!menu || has_modifier(event)) return false;
     if (event.keyval == GDK_KEY_Escape) {
         close_tool_menu();

@@ -175,4 +175,24 @@ TEST_F(WindowToolMenuKeys, AnEmptyMenuTakesThemWithoutHarm) {
     EXPECT_EQ(menu(), nullptr);
 }
 
+// Once, since the menu's end moves the focus, too.
+gboolean take_away(GtkWidget* popup) {
+    g_signal_handlers_disconnect_by_func(popup, reinterpret_cast<gpointer>(take_away), nullptr);
+    gtk_widget_destroy(popup);
+    return FALSE;
+}
+
+// Each step into the menu is told to the application, which may have seen enough of it.
+TEST_F(WindowToolMenuKeys, AHandlerMayTakeTheMenuAway) {
+    for (const char* signal : {"set-focus", "focus-in-event"}) {
+        for (const char* key : {"Down", "Tab", "Up"}) {
+            open_menu();
+            g_signal_connect(menu(), signal, G_CALLBACK(take_away), nullptr);
+            type(key);
+            EXPECT_EQ(menu(), nullptr) << signal << " " << key;
+        }
+    }
+    EXPECT_TRUE(clicked_.empty());
+}
+
 }  // namespace
