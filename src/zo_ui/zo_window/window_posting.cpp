@@ -26,11 +26,7 @@ void _zo_window::destroy(std::string reason, int line) {
 }
 
 void _zo_window::move(int x, int y) {
-    const auto task = [self = handle(), x, y] {
-        if (self->is_opened() && self->widgets_.window)
-            gtk_window_move(GTK_WINDOW(self->widgets_.window), x, y);
-    };
-    zo_system_service_exec(task, source::file, source::move);
+    zo_system_service_exec([self = handle(), x, y] { self->move_now(x, y); }, source::file, source::move);
 }
 
 void _zo_window::on_event(zo_window_event_ptr event) {

@@ -62,14 +62,22 @@ void _zo_window::_hide() {
     if (still_in(window.get(), false)) tell_manager(&zo::window_host::on_window_hidden);
 }
 
+// The desktop moves a shown window, in its own time; until then GTK answers the old place.
+void _zo_window::move_now(int x, int y) {
+    if (!is_opened() || !widgets_.window) return;
+    if (gtk_widget_get_mapped(widgets_.window)) asked_place_ = {x, y};
+    gtk_window_move(GTK_WINDOW(widgets_.window), x, y);
+}
+
 // GTK would centre the window anew when it is shown again. Where it is nobody knows before it was on screen.
 void _zo_window::hide_in_place() {
     auto* window = GTK_WINDOW(widgets_.window);
-    int x = 0;
-    int y = 0;
-    gtk_window_get_position(window, &x, &y);
+    std::pair<int, int> place;
+    gtk_window_get_position(window, &place.first, &place.second);
     gtk_widget_hide(widgets_.window);
-    if (std::exchange(placed_, false)) gtk_window_move(window, x, y);
+    const bool placed = std::exchange(placed_, false) || asked_place_;
+    if (asked_place_) place = *std::exchange(asked_place_, std::nullopt);
+    if (placed) gtk_window_move(window, place.first, place.second);
 }
 
 void _zo_window::_activate() {

@@ -32,11 +32,13 @@ struct zo::window_handlers {
         return FALSE;
     }
 
-    // The class stays until another managed window takes the focus. When only the focus inside the window
-    // goes from the toplevel itself to another widget, GTK must not hear that the window has lost it (test
-    // "KeepsTheKeyboardWhenTheFocusMovesInside").
-    static gboolean on_focus_out(GtkWidget*, GdkEventFocus*, _zo_window* window) {
-        return window->moving_focus_;
+    // The class stays until another managed window takes the focus.
+    static gboolean on_focus_out(GtkWidget*, GdkEventFocus*, _zo_window*) { return FALSE; }
+
+    // When only the focus inside the window goes from the toplevel itself to another widget, GTK must not
+    // hear that the window has lost it (test "KeepsTheKeyboardWhenTheFocusMovesInside").
+    static gboolean on_any_event(GtkWidget*, GdkEvent* event, _zo_window* window) {
+        return window->moving_focus_ && event->type == GDK_FOCUS_CHANGE && !event->focus_change.in;
     }
 
     static void on_focus_moves(GtkWindow*, GtkWidget*, _zo_window* window) { window->moving_focus_ = true; }
@@ -108,6 +110,7 @@ void _zo_window::connect_toplevel() {
     if (!popup_) {
         connect("focus-in-event", G_CALLBACK(window_handlers::on_focus_in));
         connect("focus-out-event", G_CALLBACK(window_handlers::on_focus_out));
+        connect("event", G_CALLBACK(window_handlers::on_any_event));
         connect("set-focus", G_CALLBACK(window_handlers::on_focus_moves));
         g_signal_connect_after(widgets_.window, "set-focus", G_CALLBACK(window_handlers::on_focus_moved),
                                this);
@@ -177,6 +180,7 @@ void _zo_window::centre(int width, int height) {
 // The un-maximised size may come after the state: then the window is centred once more. What comes later is
 // the user's (test "ALaterSizeLeavesTheWindowInItsPlace").
 void _zo_window::on_configured(const GdkEventConfigure& event) {
+    asked_place_.reset();
     if (!std::exchange(centring_, false)) return;
     if (event.width != centred_width_ || event.height != centred_height_) centre(event.width, event.height);
 }

@@ -56,4 +56,52 @@ TEST(WindowPlace, OfAWindowHiddenBeforeItCameIsTheMiddle) {
     EXPECT_GT(place_of(toplevel).second, 0);
 }
 
+// The desktop moves a window in its own time: the last place asked for counts, though it is not there yet.
+TEST(WindowPlace, AMoveInTheTurnOfTheHidingCounts) {
+    test::scoped_window window;
+    GtkWidget* toplevel = window.show();
+    test::settle_desktop();
+    for (const auto& [x, y] : {std::pair(330, 250), std::pair(41, 52), std::pair(500, 90)}) {
+        zo_window_move(window, 7, 9);
+        zo_window_move(window, x, y);
+        zo_window_hide(window);
+        zo_window_show(window);
+        test::run_tasks();
+        test::settle_desktop();
+        EXPECT_TRUE(test::turn_until([&] { return place_of(toplevel) == std::pair(x, y); }))
+            << place_of(toplevel).first << "," << place_of(toplevel).second;
+        hide_and_show(window, toplevel);
+        EXPECT_TRUE(test::turn_until([&] { return place_of(toplevel) == std::pair(x, y); }));
+    }
+}
+
+// Where somebody else moved it since is where it comes back.
+TEST(WindowPlace, AnOlderMoveDoesNotCount) {
+    test::scoped_window window;
+    GtkWidget* toplevel = window.show();
+    test::settle_desktop();
+    zo_window_move(window, 330, 250);
+    ASSERT_TRUE(test::turn_until([&] { return place_of(toplevel) == std::pair(330, 250); }));
+    test::settle_desktop();
+    gtk_window_move(GTK_WINDOW(toplevel), 60, 70);
+    ASSERT_TRUE(test::turn_until([&] { return place_of(toplevel) == std::pair(60, 70); }));
+    test::settle_desktop();
+    hide_and_show(window, toplevel);
+    EXPECT_TRUE(test::turn_until([&] { return place_of(toplevel) == std::pair(60, 70); }));
+}
+
+// A new tree knows nothing of the old one's place.
+TEST(WindowPlace, AMoveBeforeTheClosingIsForgotten) {
+    test::scoped_window window;
+    window.show();
+    test::settle_desktop();
+    zo_window_move(window, 3, 4);
+    zo_window_close(window);
+    test::run_tasks();
+    GtkWidget* toplevel = window.open();
+    zo_window_show(window);
+    hide_and_show(window, toplevel);
+    EXPECT_NE(place_of(toplevel), std::pair(3, 4));
+}
+
 }  // namespace

@@ -108,4 +108,37 @@ TEST(WindowSignals, EventsGoOnToOthers) {
     EXPECT_EQ(seen.names, (std::vector<std::string>{"focus", "focus", "state"}));
 }
 
+// While the focus goes from the toplevel itself to a widget inside it, GTK does not hear that the window has
+// lost it; whoever gives the signal itself is answered and heard as ever.
+TEST(WindowSignals, AFocusOutGoesOnAlsoWhileTheFocusMovesInside) {
+    test::scoped_window window("w");
+    GtkWidget* toplevel = window.open();
+    GtkWidget* entry = gtk_entry_new();
+    gtk_widget_show(entry);
+    zo_window_add_content_child(window, entry, false, false, 0, false);
+    window.show();
+    struct moving {
+        GtkWidget* toplevel;
+        int moves = 0;
+        seen_events seen{};
+        static void give(GtkWindow*, GtkWidget*, moving* self) {
+            GdkEvent* event = gdk_event_new(GDK_FOCUS_CHANGE);
+            event->focus_change.window = GDK_WINDOW(g_object_ref(gtk_widget_get_window(self->toplevel)));
+            gboolean stopped = TRUE;
+            ++self->moves;
+            g_signal_emit_by_name(self->toplevel, "focus-out-event", event, &stopped);
+            EXPECT_FALSE(stopped);
+            gdk_event_free(event);
+        }
+    } during{toplevel};
+    gtk_window_set_focus(GTK_WINDOW(toplevel), nullptr);
+    g_signal_connect(toplevel, "focus-out-event", G_CALLBACK(seen_events::note), &during.seen);
+    const gulong id = g_signal_connect(toplevel, "set-focus", G_CALLBACK(moving::give), &during);
+    gtk_window_set_focus(GTK_WINDOW(toplevel), entry);
+    g_signal_handler_disconnect(toplevel, id);
+    EXPECT_EQ(during.moves, 1);
+    EXPECT_EQ(during.seen.names, std::vector<std::string>{"focus"});
+    g_signal_handlers_disconnect_by_data(toplevel, &during.seen);
+}
+
 }  // namespace
