@@ -35,11 +35,11 @@ void _zo_window::post_text_change(const zo::window_text& text, std::string s) {
     const zo_window_ptr self = handle();
     std::string old;
     std::string stored = s;
-    {
-        zo::property_guard guard(*this, source::file, source::text_setter);
-        guard.read(text.property, old, {"&old"});
-        guard.write(text.property, stored, {"s"});
-    }
+    // Posted under the lock: of two threads the one that stores last is followed last. Another lock would be
+    // in the way of a thread that holds this one already.
+    zo::property_guard guard(*this, source::file, source::text_setter);
+    guard.read(text.property, old, {"&old"});
+    guard.write(text.property, stored, {"s"});
     zo_system_service_exec([self, &text, old, s] { self->on_text_changed(text, old, s); }, source::file,
                            text.line);
 }
