@@ -182,7 +182,7 @@ ZO_EXPORT zo_window_manager_ptr zo_window_get_window_manager(zo_window_ptr windo
 
 // Packs `child` into the content box, at its start or end, as gtk_box_pack_start does; `padding` in pixels.
 // The box then owns the child. Only on the loop's thread. False, and nothing is packed, unless the window is
-// opened.
+// opened and the child is a loose widget, that is one without a parent.
 ZO_EXPORT bool zo_window_add_content_child(zo_window_ptr window, GtkWidget* child, bool expand, bool fill,
                                            int padding, bool pack_end);
 
