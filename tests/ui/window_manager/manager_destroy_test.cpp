@@ -51,6 +51,20 @@ TEST(ManagerDestroy, TakesItsWindowsAlong) {
     EXPECT_EQ(all.a.use_count(), 1);
 }
 
+// Its own end was asked for before.
+TEST(ManagerDestroy, NamesItselfToAWindowThatWasToGoAnyway) {
+    const handles all;
+    all.join();
+    test::captured_output output;
+    zo_window_manager_destroy(all.manager);
+    zo_window_destroy(all.a, "src/app.cpp", 12);
+    test::run_tasks();
+    EXPECT_EQ(output.text(),
+              "\x1b[1;35mZO-SYSTEM**WARNING**\x1b[0;0m: CALLING DESTROY MULTIPLE TIMES IS NOT AN OPTION "
+              "\x1b[0;35m[zo_window]\x1b[0;0m-src/zo_ui/zo_window_manager:472\n");
+    EXPECT_TRUE(is_destroyed(all.a) && is_destroyed(all.b));
+}
+
 // A window's leaving and a window's end are tasks: in between the manager is still held.
 TEST(ManagerDestroy, LetsGoAfterTheLastWindowHasLeft) {
     const handles all;

@@ -73,6 +73,14 @@ TEST_F(ManagerLayout, ThePanelWindow) {
               gdk_screen_get_rgba_visual(gtk_widget_get_screen(test::panel())));
 }
 
+// A screen that gets a compositor tells so.
+TEST_F(ManagerLayout, TakesTheVisualOfAChangedScreen) {
+    GdkScreen* screen = gtk_widget_get_screen(test::panel());
+    gtk_widget_set_visual(test::panel(), gdk_screen_get_system_visual(screen));
+    g_signal_emit_by_name(test::panel(), "screen-changed", nullptr);
+    EXPECT_EQ(gtk_widget_get_visual(test::panel()), gdk_screen_get_rgba_visual(screen));
+}
+
 TEST_F(ManagerLayout, TheContainers) {
     GtkWidget* fixed = by_name("manager-fixed");
     GtkWidget* event_box = by_name("manager-wrapper-event_box");

@@ -50,6 +50,35 @@ TEST(ManagerMonitor, ThePanelSlidesAtItsTop) {
     }
 }
 
+TEST(ManagerMonitor, TakesWidgetsAndToolbars) {
+    const auto block = [](int width, int height) {
+        GtkWidget* box = gtk_box_new(GTK_ORIENTATION_HORIZONTAL, 0);
+        gtk_widget_set_size_request(box, width, height);
+        gtk_widget_show(box);
+        return box;
+    };
+    const test::scoped_panel panel;
+    panel.show();
+    const test::place before = test::place_of(test::panel());
+    GtkWidget* left = block(60, 10);
+    EXPECT_TRUE(zo_window_manager_add_widget_left(panel, left));
+    EXPECT_TRUE(zo_window_manager_add_widget_right(panel, block(90, 10)));
+    GtkWidget* toolbar = block(10, 10);
+    gtk_container_add(GTK_CONTAINER(toolbar), block(10, 36));
+    EXPECT_TRUE(zo_window_manager_add_toolbar(panel, GTK_BOX(toolbar)));
+    EXPECT_TRUE(test::turn_until([&] { return gtk_widget_get_allocated_height(toolbar) >= 36; }));
+    EXPECT_TRUE(test::turn_until([] { return test::place_of(test::panel()).width == zo_ui_screen_width(); }))
+        << test::place_of(test::panel());
+    EXPECT_TRUE(test::is_retracted()) << test::place_of(test::panel());
+    EXPECT_GT(test::place_of(test::panel()).height, before.height);
+    EXPECT_TRUE(
+        test::turn_until([&] { return gtk_widget_get_allocated_width(toolbar) == zo_ui_screen_width(); }));
+    EXPECT_TRUE(zo_window_manager_remove_widget_left(panel, left));
+    EXPECT_TRUE(zo_window_manager_remove_toolbar(panel, GTK_BOX(toolbar)));
+    EXPECT_TRUE(test::turn_until([&] { return test::place_of(test::panel()) == before; }));
+    EXPECT_TRUE(test::is_retracted());
+}
+
 TEST(ManagerMonitor, TheRowWorks) {
     const test::scoped_panel panel;
     panel.keep_extended(true);

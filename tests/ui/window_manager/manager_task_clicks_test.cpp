@@ -90,6 +90,63 @@ TEST_F(ManagerTaskClicks, JoiningTwiceRegistersOnce) {
     EXPECT_EQ(test::row(), "a x");
 }
 
+// The manager deletes it in the end, like its own.
+TEST_F(ManagerTaskClicks, AHandlerThatIsThereBeforeJoiningStays) {
+    test::scoped_window window("a");
+    int clicked = 0;
+    auto* own = new std::function<void(GtkWidget*)>([&](GtkWidget*) { ++clicked; });
+    zo_property_set<std::function<void(GtkWidget*)>*>(zo_window_to_object(window)->property_list,
+                                                      "manager-click-cb", own);
+    panel.join(window);
+    window.open();
+    EXPECT_EQ(task_of(window).click, own);
+    gtk_button_clicked(GTK_BUTTON(test::task_button("a")));
+    EXPECT_EQ(clicked, 1);
+    EXPECT_FALSE(test::state_of(window).visible);
+}
+
+// Opened once more it is the last in order, and its buttons stay where they are.
+TEST_F(ManagerTaskClicks, ButtonsThatExistAreKept) {
+    test::joined_window a(panel, "a");
+    test::joined_window b(panel, "b");
+    a.open();
+    b.open();
+    const zo::task before = task_of(a);
+    panel.get()->on_window_open(a);
+    EXPECT_EQ(test::row(), "b x a x");
+    EXPECT_EQ(task_of(a).button, before.button);
+    EXPECT_EQ(task_of(a).close, before.close);
+    panel.close();
+    panel.open();
+    EXPECT_EQ(test::row(), "a x b x");
+}
+
+TEST_F(ManagerTaskClicks, StrangersAreIgnored) {
+    test::captured_output output;
+    test::scoped_window stranger("a");
+    stranger.show();
+    _zo_window_manager& manager = *panel.get();
+    for (const auto event : {&_zo_window_manager::on_window_open, &_zo_window_manager::on_window_title,
+                             &_zo_window_manager::on_window_shown, &_zo_window_manager::on_window_hidden,
+                             &_zo_window_manager::on_window_close, &_zo_window_manager::on_window_destroy,
+                             &_zo_window_manager::disconnect_window})
+        (manager.*event)(stranger);
+    EXPECT_EQ(test::row(), "");
+    EXPECT_TRUE(zo::manager_access::shown(manager).empty());
+    panel.close();
+    manager.on_window_shown(stranger);
+    EXPECT_TRUE(test::state_of(stranger).visible);
+    EXPECT_EQ(output.text(), "");
+}
+
+TEST_F(ManagerTaskClicks, ADestroyedWindowIsNotRegistered) {
+    test::scoped_window window("a");
+    zo_window_destroy(window);
+    test::run_tasks();
+    panel.get()->connect_window(window);
+    EXPECT_TRUE(zo::manager_access::registered(*panel.get()).empty());
+}
+
 TEST_F(ManagerTaskClicks, AReopenedWindowKeepsItsHandler) {
     test::joined_window a(panel, "a");
     a.open();

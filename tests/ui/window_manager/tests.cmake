@@ -23,10 +23,18 @@ zo_panel_inner_test(manager_table_test manager_table_order_test manager_slot_ord
   manager_task_clicks_test manager_task_reports_test manager_task_reentry_test manager_service_end_test)
 pkg_check_modules(XEXT REQUIRED IMPORTED_TARGET xext)
 target_link_libraries(manager_menu_test PRIVATE PkgConfig::XEXT)
-zo_panel_test(manager_many_test manager_foreign_menu_test)
+zo_panel_test(manager_many_test manager_foreign_menu_test manager_interleaving_test manager_locks_test
+  manager_task_titles_test manager_crossing_test manager_after_destroy_test manager_accessibility_test
+  manager_threads_test)
 
 # One program, on a monitor that is moved and on one of scale 2.
 foreach(monitor moved scaled)
   zo_test(manager_${monitor}_monitor_test FILES ui/window_manager/manager_monitor_test.cpp
     LIBRARIES panel_support zo_ui SESSIONS openbox none ARGUMENTS ${monitor})
+endforeach()
+
+# One program, in both directions of text.
+foreach(direction left_to_right right_to_left)
+  zo_test(manager_scrolling_${direction}_test FILES ui/window_manager/manager_scrolling_test.cpp
+    LIBRARIES panel_support zo_ui SESSIONS openbox none ARGUMENTS ${direction})
 endforeach()
