@@ -21,12 +21,12 @@ zo_panel_test(manager_null_handles_test manager_lifecycle_test manager_destroy_t
   manager_slots_test manager_task_buttons_test manager_extend_test manager_menu_test manager_right_to_left_test)
 zo_panel_inner_test(manager_table_test manager_table_order_test manager_slot_order_test manager_lock_test
   manager_task_clicks_test manager_task_reports_test manager_task_reentry_test manager_service_end_test
-  manager_cost_test)
+  manager_cost_test manager_notification_reason_test)
 pkg_check_modules(XEXT REQUIRED IMPORTED_TARGET xext)
 target_link_libraries(manager_menu_test PRIVATE PkgConfig::XEXT)
 zo_panel_test(manager_many_test manager_foreign_menu_test manager_interleaving_test manager_locks_test
   manager_task_titles_test manager_crossing_test manager_after_destroy_test manager_accessibility_test
-  manager_threads_test manager_task_properties_test)
+  manager_threads_test manager_task_properties_test manager_notifications_test)
 
 # One program, on a monitor that is moved and on one of scale 2.
 foreach(monitor moved scaled)
