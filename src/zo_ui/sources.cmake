@@ -18,6 +18,7 @@ zo_library(zo_ui
     zo_ui/toolkit/widgets.cpp
     zo_ui/zo_appindicator/appindicator.cpp
     zo_ui/zo_appindicator/appindicator_menu.cpp
+    zo_ui/zo_appindicator/appindicator_place.cpp
     zo_ui/zo_notification/notification.cpp
     zo_ui/zo_notification/notification_api.cpp
     zo_ui/zo_notification/notification_closing.cpp

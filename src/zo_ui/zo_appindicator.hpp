@@ -14,7 +14,8 @@
 #include <functional>
 #include <string>
 
-// A new indicator. `name` is its id among those of the desktop; with an empty one it is never shown. `title`
+// A new indicator. `name` is its id, different from those of the program's other indicators in more than
+// punctuation; with an empty one it is never shown. `title`
 // is what the desktop calls it, empty for none. `icon` is the name of an icon of the theme, or the absolute
 // path of a picture. The library keeps the indicator alive, beside the caller's handle, until it is
 // destroyed: zo_appindicator_to_object(indicator)->destroy(reason, line). Any thread.

@@ -192,6 +192,13 @@ void check_4() {
     check<void(int)>(zo_ui_set_fps);
     check<void(GtkWidget*)>(zo_ui_add_fps_widget);
     check<void()>(zo_ui_output_listeners_stats);
+    check<bool(zo_object_ptr)>(zo_is_appindicator);
+    check<zo_object_ptr(zo_appindicator_ptr)>(zo_appindicator_to_object);
+    check<zo_appindicator_ptr(zo_object_ptr)>(zo_appindicator_from_object);
+    check<zo_appindicator_ptr(std::string, std::string, std::string)>(zo_appindicator_new);
+    check<bool(zo_appindicator_ptr, std::string, std::string,
+               std::function<void(zo_appindicator_ptr, std::string&)>)>(zo_appindicator_add_action);
+    check<bool(zo_appindicator_ptr)>(zo_appindicator_show);
     check<void()>(zo_theme_init);
     check<void()>(zo_theme_uninit);
     check<void(std::string)>(zo_theme_set_theme_path);

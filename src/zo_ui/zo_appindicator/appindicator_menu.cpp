@@ -4,33 +4,40 @@
 
 #include <zo_core/zo_diagnostics.hpp>
 #include <zo_core/zo_service.hpp>
+#include <zo_ui/zo_appindicator/appindicator_place_p.hpp>
 #include <zo_ui/zo_ui_connect.hpp>
+
+#include <boost/weak_ptr.hpp>
+#include <memory>
 
 namespace source = zo::appindicator_source;
 
 namespace {
 
-// The toolkit that is going away itself takes what is left along.
+struct release_menu {
+    void operator()(GtkWidget* menu) const { g_object_unref(menu); }
+};
+
+// The toolkit that is going away itself takes what is left along. The menu goes even where somebody else
+// still holds the icon, since its items hold the indicator.
 void take_down(AppIndicator* indicator, GtkWidget* menu) {
     if (zo_system_service_done()) return;
-    g_object_ref(menu);
-    g_object_unref(indicator);
+    const std::unique_ptr<GtkWidget, release_menu> owned(menu);
+    if (indicator) zo::let_icon_go(indicator);
     gtk_widget_destroy(menu);
-    g_object_unref(menu);
 }
 
 }  // namespace
 
 indicator_data::~indicator_data() {
-    if (!indicator) return;
+    if (!menu) return;
     zo_system_service_exec([indicator = indicator, menu = menu] { take_down(indicator, menu); }, source::file,
                            source::release);
 }
 
 void indicator_data::release() {
-    AppIndicator* const shown = std::exchange(indicator, nullptr);
-    GtkWidget* const its_menu = std::exchange(menu, nullptr);
-    if (shown) take_down(shown, its_menu);
+    AppIndicator* const icon = std::exchange(indicator, nullptr);
+    if (GtkWidget* const its_menu = std::exchange(menu, nullptr)) take_down(icon, its_menu);
 }
 
 indicator_data_ptr _zo_appindicator::record(int line) {
@@ -50,31 +57,42 @@ void _zo_appindicator::add_action_now(const std::string& name, std::string& labe
     place->second.second.swap(callback);
 }
 
+// The menu shows the actions of this moment, even when the icon has to wait.
 void _zo_appindicator::show_now() {
     const indicator_data_ptr iw = record(source::show_task_record);
-    if (!iw || iw->indicator) return;
-    std::string icon;
-    std::string name;
-    std::string title;
-    std::string label;
+    if (!iw || iw->menu) return;
+    zo::icon_texts texts;
     {
         zo::property_guard guard(*this, source::file, source::show_task);
-        guard.read("icon", icon, {"&icon"});
-        guard.read("name", name, {"&name"});
-        guard.read("title", title, {"&title"});
-        guard.read("label", label, {"&label"});
+        guard.read("icon", texts.icon, {"&icon"});
+        guard.read("name", texts.name, {"&name"});
+        guard.read("title", texts.title, {"&title"});
+        guard.read("label", texts.label, {"&label"});
     }
-    if (name.empty()) return;
+    if (texts.name.empty()) return;
     if (!gdk_display_get_default()) {
-        zo_assertion_faild(false, "display != nullptr", name, source::file, source::no_display);
+        zo_assertion_faild(false, "display != nullptr", texts.name, source::file, source::no_display);
         return;
     }
-    iw->indicator = app_indicator_new(name.c_str(), icon.c_str(), APP_INDICATOR_CATEGORY_APPLICATION_STATUS);
+    iw->menu = GTK_WIDGET(g_object_ref_sink(new_menu(*iw)));
+    show_icon(texts);
+}
+
+void _zo_appindicator::show_icon(const zo::icon_texts& texts) {
+    const indicator_data_ptr iw = record(source::show_task_record);
+    if (!iw || !iw->menu || iw->indicator) return;
+    const auto again = [weak = boost::weak_ptr<_zo_appindicator>(handle()), texts] {
+        const zo_appindicator_ptr self = weak.lock();
+        if (self)
+            zo_system_service_exec([self, texts] { self->show_icon(texts); }, source::file, source::show);
+    };
+    if (zo::must_wait_for_place(texts.name, again)) return;
+    const auto& [icon, name, title, label] = texts;
+    iw->indicator = zo::new_icon(name, icon);
     app_indicator_set_attention_icon(iw->indicator, icon.c_str());
     if (!title.empty()) app_indicator_set_title(iw->indicator, title.c_str());
     app_indicator_set_status(iw->indicator, APP_INDICATOR_STATUS_ACTIVE);
     if (!label.empty()) app_indicator_set_label(iw->indicator, label.c_str(), "guide");
-    iw->menu = new_menu(*iw);
     app_indicator_set_menu(iw->indicator, GTK_MENU(iw->menu));
 }
 

@@ -25,18 +25,25 @@ class indicator_data {
     // taken away on the loop.
     virtual ~indicator_data();
 
-    // Takes the icon and its menu away; with the toolkit going away itself they are only forgotten. The menu
-    // goes even where somebody else still holds the icon, since its entries hold the indicator.
+    // Takes the icon and its menu away; with the toolkit going away itself they are only forgotten.
     void release();
 
-    AppIndicator* indicator = nullptr;                                         // owned; null until shown
-    GtkWidget* menu = nullptr;                                                 // the icon's; null until shown
+    AppIndicator* indicator = nullptr;  // owned; null until shown, for a moment longer than the menu
+    GtkWidget* menu = nullptr;          // owned; null until shown
     std::map<std::string, std::pair<std::string, callback_function>> actions;  // name to label and callback
 };
 
 using indicator_data_ptr = boost::shared_ptr<indicator_data>;
 
 namespace zo {
+
+// What the show task reads.
+struct icon_texts {
+    std::string icon;
+    std::string name;
+    std::string title;
+    std::string label;
+};
 
 template <>
 struct type_text<indicator_data_ptr> {
@@ -73,6 +80,7 @@ class _zo_appindicator : public _zo_object {
 
     void add_action_now(const std::string& name, std::string& label, callback_function& callback);
     void show_now();
+    void show_icon(const zo::icon_texts& texts);
     void destroy_now();
     GtkWidget* new_menu(const indicator_data& iw);
     void on_item_activated(GtkMenuItem* item);

@@ -4,9 +4,14 @@
 #include "support/tray.hpp"
 #include "support/ui.hpp"
 
+#include <zo_core/zo_core.hpp>
+
 #include <string>
+#include <vector>
 
 namespace test {
+
+using indicator_handle = const zo_appindicator_ptr&;
 
 // Destroys the indicator at the end of the scope and runs the tasks that belong to it.
 class scoped_indicator {
@@ -21,6 +26,12 @@ class scoped_indicator {
     const zo_appindicator_ptr& get() const { return indicator_; }
     zo_object_ptr object() const { return zo_appindicator_to_object(indicator_); }
 
+    // Adds an action that counts.
+    void count(const std::string& name, const std::string& label, int& counter) {
+        zo_appindicator_add_action(indicator_, name, label,
+                                   [&counter](zo_appindicator_ptr, std::string&) { ++counter; });
+    }
+
     void show() {
         zo_appindicator_show(indicator_);
         run_tasks();
@@ -33,12 +44,42 @@ class scoped_indicator {
         run_tasks();
     }
 
-    // Drops the test's handle; the indicator is then destroyed by somebody else.
+    // Drops the test's handle; somebody else destroys the indicator, or has done it.
     void let_go() { indicator_.reset(); }
 
   private:
     zo_appindicator_ptr indicator_;
     bool destroyed_ = false;
 };
+
+// Tests with a tray host, one for the whole program.
+class with_tray_host : public testing::Test {
+  protected:
+    static void SetUpTestSuite() { host = new tray_host; }
+    static void TearDownTestSuite() {
+        delete host;
+        host = nullptr;
+    }
+    static inline tray_host* host = nullptr;
+};
+
+// The menus that exist in this process, of whatever indicator.
+inline std::vector<GtkWidget*> menus() {
+    std::vector<GtkWidget*> result;
+    GList* all = gtk_window_list_toplevels();
+    for (GList* item = all; item; item = item->next) {
+        GtkWidget* const child = gtk_bin_get_child(GTK_BIN(item->data));
+        if (child && GTK_IS_MENU(child)) result.push_back(child);
+    }
+    g_list_free(all);
+    return result;
+}
+
+// Chooses an entry and waits until the counter has moved.
+inline void choose_and_wait(const tray_item& item, const std::string& label, const int& counter) {
+    const int before = counter;
+    EXPECT_TRUE(choose_tray_entry(item, label)) << label;
+    EXPECT_TRUE(turn_until([&] { return counter != before; })) << label;
+}
 
 }  // namespace test

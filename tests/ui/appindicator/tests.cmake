@@ -17,4 +17,19 @@ function(zo_tray_inner_test)
   endforeach()
 endfunction()
 
-zo_tray_test(appindicator_show_test)
+zo_tray_test(appindicator_show_test appindicator_menu_test appindicator_callback_test appindicator_destroy_test
+  appindicator_icon_test appindicator_host_test appindicator_no_bus_test appindicator_null_handles_test
+  appindicator_reports_test appindicator_threads_test appindicator_service_end_test)
+zo_tray_inner_test(appindicator_posts_test appindicator_table_test)
+zo_test(appindicator_displayless_test FILES ui/appindicator/appindicator_displayless_test.cpp
+  LIBRARIES zo_ui PkgConfig::GTK3)
+
+# jwm's panel is a tray of the old kind.
+zo_test(appindicator_fallback_test FILES ui/appindicator/appindicator_fallback_test.cpp LIBRARIES tray_support zo_ui
+  SESSIONS jwm)
+
+add_executable(leaving_program ui/appindicator/leaving_program.cpp)
+target_link_libraries(leaving_program PRIVATE zo_ui PkgConfig::GTK3)
+zo_tray_test(appindicator_exit_test)
+target_compile_definitions(appindicator_exit_test PRIVATE LEAVING_PROGRAM="$<TARGET_FILE:leaving_program>")
+add_dependencies(appindicator_exit_test leaving_program)

@@ -1,0 +1,27 @@
+// SPDX-License-Identifier: MIT
+// The icon itself, and when one can be made. Only on the loop.
+//
+// The indicator library asks the session bus two things at once, and on a connection that is still being made
+// the answers may come in an order that it does not survive: then the icon never appears, and never goes. So
+// the connection is made first, and held while there are icons; not longer, because a host knows by its end
+// that they have gone. And an icon that was taken away lives on until the bus has answered what was asked for
+// it; meanwhile its place on the bus is taken, and a new icon of the same name would not appear.
+#pragma once
+
+#include <libayatana-appindicator/app-indicator.h>
+#include <functional>
+#include <string>
+
+namespace zo {
+
+// False when an icon of this name can be made now. Otherwise `then` is called, once, when it is worth asking
+// again; it must not touch the toolkit.
+bool must_wait_for_place(const std::string& name, std::function<void()> then);
+
+// The new icon is the caller's until let_icon_go.
+AppIndicator* new_icon(const std::string& name, const std::string& icon);
+
+// Hides the icon, for hosts that do not see it go, and gives it up.
+void let_icon_go(AppIndicator* icon);
+
+}  // namespace zo
