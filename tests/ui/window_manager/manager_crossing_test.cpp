@@ -51,6 +51,20 @@ TEST_F(ManagerCrossing, TheRowAboveItIsNot) {
     EXPECT_TRUE(test::is_extended());
 }
 
+// Handlers of others, connected later, see none of them.
+TEST_F(ManagerCrossing, CrossingsStopAtThePanel) {
+    panel.show();
+    int seen = 0;
+    for (const char* signal : {"enter-notify-event", "leave-notify-event"})
+        g_signal_connect_swapped(test::find_name(test::panel(), "manager-wrapper-event_box"), signal,
+                                 G_CALLBACK(+[](int* count) -> gboolean { return ++*count < 0; }), &seen);
+    test::move_pointer(zo_ui_screen_x() + 700, zo_ui_screen_y());
+    EXPECT_TRUE(test::is_extended());
+    test::move_pointer(zo_ui_screen_x() + 700, zo_ui_screen_y() + 400);
+    EXPECT_TRUE(test::is_retracted());
+    EXPECT_EQ(seen, 0);
+}
+
 TEST_F(ManagerCrossing, AToolbarThatComesAndGoesWhileThePanelIsHidden) {
     panel.show();
     const int before = height();

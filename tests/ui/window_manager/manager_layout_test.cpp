@@ -81,6 +81,16 @@ TEST_F(ManagerLayout, TakesTheVisualOfAChangedScreen) {
     EXPECT_EQ(gtk_widget_get_visual(test::panel()), gdk_screen_get_rgba_visual(screen));
 }
 
+TEST_F(ManagerLayout, TellsThatItIsNoTaskAndStaysAbove) {
+    for (int round = 0; round < 2; ++round) {
+        panel.show();
+        for (const char* state :
+             {"_NET_WM_STATE_ABOVE", "_NET_WM_STATE_SKIP_TASKBAR", "_NET_WM_STATE_SKIP_PAGER"})
+            EXPECT_TRUE(test::x_property_becomes(test::panel(), "_NET_WM_STATE", state)) << state;
+        panel.run(zo_window_manager_hide);
+    }
+}
+
 TEST_F(ManagerLayout, TheContainers) {
     GtkWidget* fixed = by_name("manager-fixed");
     GtkWidget* event_box = by_name("manager-wrapper-event_box");
