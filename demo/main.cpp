@@ -34,6 +34,7 @@ int main(int argc, char** argv) {
     demo::make_notes_window(shop);
     demo::make_studio_window(shop);
     demo::make_settings_window(shop);
+    demo::make_messages_window(shop);
     demo::start(shop);
 
     const bool touring = argc == 3 && std::string(argv[1]) == "--tour";

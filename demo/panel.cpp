@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
-// The panel: a launcher at the left, a clock at the right, a toolbar when asked for.
+// The panel: a launcher at the left, the active window's title and a clock at the right, a toolbar when asked
+// for.
+#include "active_title.hpp"
 #include "workshop.hpp"
 
 #include <ctime>
@@ -15,6 +17,7 @@ GtkWidget* launcher_new(demo::workshop& shop) {
         {"Notes", &demo::workshop::notes},
         {"Studio", &demo::workshop::studio},
         {"Settings", &demo::workshop::settings},
+        {"Messages", &demo::workshop::messages},
     };
     GtkWidget* menu = gtk_menu_new();
     for (const entry& row : entries) {
@@ -95,6 +98,7 @@ void demo::make_panel(workshop& shop) {
     shop.panel = zo_window_manager_new("panel");
     zo_window_manager_on_open(shop.panel, [&shop](zo_window_manager_ptr panel) {
         zo_window_manager_add_widget_left(panel, launcher_new(shop));
+        zo_window_manager_add_widget_right(panel, active_title_new());
         zo_window_manager_add_widget_right(panel, clock_new());
         shop.log.add("panel", "open");
     });

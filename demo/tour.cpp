@@ -2,6 +2,7 @@
 #include "tour.hpp"
 
 #include "backdrop.hpp"
+#include "tour_messages.hpp"
 #include "tour_panel.hpp"
 #include "tour_tools.hpp"
 
@@ -122,10 +123,26 @@ void leave(visit& v) {
 }
 
 void take(visit& v) {
-    for (const auto step :
-         {three_windows, drag_by_the_title, hint_and_back, tool_menu, photo, flags_and_reopening,
-          closing_and_refusing, hiding_and_restoring, panel_by_the_pointer, panel_lock, task_buttons,
-          panel_toolbar, panel_closed_and_opened, leave})
+    for (const auto step : {three_windows,
+                            drag_by_the_title,
+                            hint_and_back,
+                            tool_menu,
+                            photo,
+                            flags_and_reopening,
+                            closing_and_refusing,
+                            hiding_and_restoring,
+                            panel_by_the_pointer,
+                            panel_lock,
+                            task_buttons,
+                            panel_toolbar,
+                            panel_closed_and_opened,
+                            closing_by_the_task,
+                            active_title,
+                            message_stack,
+                            link_action_and_timeout,
+                            messages_of_the_panel,
+                            tray_menu,
+                            leave})
         step(v);
 }
 

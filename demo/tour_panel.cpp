@@ -40,6 +40,17 @@ void let_go() {
 
 GtkWidget* task_of(const std::string& title) { return button_labelled(panel_window(), title); }
 
+// The close button stands right after its task.
+GtkWidget* close_of(const std::string& id) {
+    GtkWidget* wrapper = gtk_widget_get_parent(widget_named(panel_window(), id));
+    GList* all = gtk_container_get_children(GTK_CONTAINER(gtk_widget_get_parent(wrapper)));
+    GList* next = g_list_next(g_list_find(all, wrapper));
+    GtkWidget* found = next ? widget_of_class(GTK_WIDGET(next->data), "title-close") : nullptr;
+    g_list_free(all);
+    if (!found) throw failed_step("the task of " + id + " has a close button");
+    return found;
+}
+
 bool is_visible(const zo_window_ptr& window) {
     bool visible = false;
     zo_window_is_visible(window, &visible);
@@ -115,6 +126,35 @@ void panel_closed_and_opened(visit& v) {
     click(task_of("Settings"));
     expect("the others come back by their tasks", [&] { return is_visible(v.shop.settings); });
     v.picture("panel-opened-again");
+    let_go();
+}
+
+// The task row closes a window at once: it asks nobody, whether the window would refuse or not.
+void closing_by_the_task(visit& v) {
+    for (const bool refusing : {true, false}) {
+        summon(v.shop, v.shop.notes);
+        expect("the notes are there", [] { return is_open("notes") && is_on_screen(window_named("notes")); });
+        v.shop.ask_before_closing = refusing;
+        bring_out();
+        const std::size_t before = v.shop.log.size();
+        click(close_of("notes"));
+        expect("the close button of its task closes the window", [] { return !is_open("notes"); });
+        if (v.shop.log.contains_since(before, "notes", "close request: refused"))
+            throw failed_step("the task row does not ask");
+        if (refusing) v.picture("closed-by-its-task");
+        let_go();
+    }
+}
+
+void active_title(visit& v) {
+    bring_out();
+    GtkLabel* label = GTK_LABEL(widget_named(panel_window(), "active-title"));
+    for (const auto& [window, title] : {std::pair{v.shop.studio, "Studio"}, {v.shop.settings, "Settings"}}) {
+        zo_window_activate(window);
+        expect(std::string("the panel tells that the active window is ") + title,
+               [&, title = title] { return g_strcmp0(gtk_label_get_text(label), title) == 0; });
+    }
+    v.picture("active-window-on-the-panel");
     let_go();
 }
 

@@ -13,6 +13,7 @@ struct place {
 place place_of(const demo::workshop& shop, const zo_window_ptr& window) {
     if (window == shop.notes) return {0.03, 0.08};
     if (window == shop.studio) return {0.36, 0.16};
+    if (window == shop.messages) return {0.40, 0.55};
     return {0.685, 0.08};
 }
 
@@ -55,6 +56,7 @@ void demo::start(workshop& shop) {
         zo_window_set_window_manager(window, shop.panel);
         appear(shop, window);
     }
+    zo_window_set_window_manager(shop.messages, shop.panel);
     zo_window_activate(shop.studio);
 }
 
@@ -65,6 +67,9 @@ void demo::reopen(workshop& shop, const zo_window_ptr& window) {
 }
 
 void demo::quit(workshop& shop) {
+    for (const zo_notification_ptr& notification : shop.raised) zo_notification_destroy(notification);
+    if (shop.tray) zo_appindicator_to_object(shop.tray)->destroy("demo", __LINE__);
+    shop.tray.reset();
     zo_window_manager_close(shop.panel);
     zo_window_manager_destroy(shop.panel);
     // The panel's end posts that of its windows, so the loop's end is posted behind both.

@@ -18,6 +18,11 @@ struct workshop {
     zo_window_ptr notes;
     zo_window_ptr studio;
     zo_window_ptr settings;
+    zo_window_ptr messages;
+    zo_appindicator_ptr tray;                 // empty until it is shown
+    std::vector<zo_notification_ptr> raised;  // those that are not closed
+    bool messages_on_panel = false;
+    bool messages_leave = false;
     callback_log log;
     bool ask_before_closing = false;
     GtkBox* toolbar = nullptr;  // null while the panel has none
@@ -41,11 +46,13 @@ void show_toolbar(workshop& shop, bool on);
 void make_notes_window(workshop& shop);
 void make_studio_window(workshop& shop);
 void make_settings_window(workshop& shop);
+void make_messages_window(workshop& shop);
 
 // Logs what the library reports of the window.
 void log_life_cycle(workshop& shop, const zo_window_ptr& window, const std::string& name);
 
-// Opens and shows the panel, and the three windows, each in its place on the work area.
+// Opens and shows the panel, and the first three windows, each in its place on the work area; the messages
+// wait to be launched.
 void start(workshop& shop);
 
 // Closes a window and opens it again in its place, so that changed flags take effect.
@@ -54,7 +61,7 @@ void reopen(workshop& shop, const zo_window_ptr& window);
 // Opens a window if it is closed, shows it if it is hidden, and activates it.
 void summon(workshop& shop, const zo_window_ptr& window);
 
-// Ends the panel with the three windows, and then the main loop.
+// Ends the tray, the notifications and the panel with its windows, and then the main loop.
 void quit(workshop& shop);
 
 // A label with Pango markup, aligned to the start.
