@@ -144,6 +144,10 @@ std::vector<std::string> test::tray_labels(const tray_item& item) {
     return labels;
 }
 
+bool test::tray_labels_become(const tray_item& item, const std::vector<std::string>& labels) {
+    return turn_until([&] { return tray_labels(item) == labels; });
+}
+
 bool test::choose_tray_entry(const tray_item& item, const std::string& label) {
     for (const entry& each : entries_of(item)) {
         if (each.label != label) continue;

@@ -46,7 +46,11 @@ tray_item wait_for_tray_item(const std::string& id);
 // The labels of an item's menu in the order in which hosts show them.
 std::vector<std::string> tray_labels(const tray_item& item);
 
-// Chooses the entry with this label as a host does when the user clicks it. False when there is none.
+// Waits until these are the labels.
+bool tray_labels_become(const tray_item& item, const std::vector<std::string>& labels);
+
+// Chooses the entry with this label as a host does when the user clicks it. False when there is none
+// (yet: a menu takes a moment longer than its icon).
 bool choose_tray_entry(const tray_item& item, const std::string& label);
 
 // A real tray host of the test's own desktop, from construction (when it is ready) to the end of the scope.

@@ -34,6 +34,26 @@ void on_bus(GObject*, GAsyncResult* result, gpointer) {
     wake_waiting();
 }
 
+// Another question of the same kind, answered before the loop goes on: behind a few of them the one that the
+// indicator library has just asked is answered, too. They need no word from the bus, and so cannot hang.
+void let_connection_arrive() {
+    constexpr int questions = 8;
+    GMainContext* const apart = g_main_context_new();
+    g_main_context_push_thread_default(apart);
+    for (int i = 0; i < questions; ++i) {
+        bool answered = false;
+        const auto on_answer = [](GObject*, GAsyncResult* result, gpointer data) {
+            GDBusConnection* same = g_bus_get_finish(result, nullptr);
+            g_clear_object(&same);
+            *static_cast<bool*>(data) = true;
+        };
+        g_bus_get(G_BUS_TYPE_SESSION, nullptr, on_answer, &answered);
+        while (!answered) g_main_context_iteration(apart, TRUE);
+    }
+    g_main_context_pop_thread_default(apart);
+    g_main_context_unref(apart);
+}
+
 void on_icon_left(gpointer data, GObject*) {
     const std::unique_ptr<std::string> name(static_cast<std::string*>(data));
     const auto place = all().leaving.find(*name);
@@ -60,6 +80,7 @@ bool zo::must_wait_for_place(const std::string& name, std::function<void()> then
 AppIndicator* zo::new_icon(const std::string& name, const std::string& icon) {
     AppIndicator* const made =
         app_indicator_new(name.c_str(), icon.c_str(), APP_INDICATOR_CATEGORY_APPLICATION_STATUS);
+    if (all().connection) let_connection_arrive();
     ++all().living;
     g_object_weak_ref(G_OBJECT(made), on_icon_left, new std::string(name));
     return made;

@@ -3,9 +3,10 @@
 //
 // The indicator library asks the session bus two things at once, and on a connection that is still being made
 // the answers may come in an order that it does not survive: then the icon never appears, and never goes. So
-// the connection is made first, and held while there are icons; not longer, because a host knows by its end
-// that they have gone. And an icon that was taken away lives on until the bus has answered what was asked for
-// it; meanwhile its place on the bus is taken, and a new icon of the same name would not appear.
+// the connection is made first, answers for itself first, and is held while there are icons; not longer,
+// because a host knows by its end that they have gone. And an icon that was taken away lives on until the bus
+// has answered what was asked for it; meanwhile its place on the bus is taken, and a new icon of the same
+// name would not appear.
 #pragma once
 
 #include <libayatana-appindicator/app-indicator.h>

@@ -147,7 +147,7 @@ TEST_F(AppindicatorDestroy, WithoutADestroyTheIconGoesWithTheObject) {
 }
 
 TEST_F(AppindicatorDestroy, ManyComeAndGo) {
-    for (int round = 0; round < 100; ++round) {
+    for (int round = 0; round < 40; ++round) {
         test::scoped_indicator other("many");
         other.count("a", "A", called);
         other.show();

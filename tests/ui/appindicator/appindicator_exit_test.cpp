@@ -15,7 +15,8 @@ TEST_P(AppindicatorExit, TakesTheIconAlong) {
         static_cast<GSubprocessFlags>(G_SUBPROCESS_FLAGS_STDOUT_PIPE | G_SUBPROCESS_FLAGS_STDERR_MERGE),
         &error, LEAVING_PROGRAM, GetParam(), nullptr);
     ASSERT_TRUE(program);
-    EXPECT_TRUE(test::choose_tray_entry(test::wait_for_tray_item("leaving"), "Leave"));
+    EXPECT_TRUE(test::turn_until(
+        [&] { return test::choose_tray_entry(test::wait_for_tray_item("leaving"), "Leave"); }));
     struct ending {
         bool here = false;
         std::string output;

@@ -46,8 +46,8 @@ TEST_F(AppindicatorThreads, ShareOneIndicator) {
     });
     const test::tray_item item = test::wait_for_tray_item("shared");
     EXPECT_EQ(test::menus().size(), 1U);
-    EXPECT_EQ(test::tray_labels(item).size(), 10U);
-    EXPECT_TRUE(test::choose_tray_entry(item, "action-7"));
+    EXPECT_TRUE(test::turn_until([&] { return test::tray_labels(item).size() == 10; }));
+    EXPECT_TRUE(test::turn_until([&] { return test::choose_tray_entry(item, "action-7"); }));
     EXPECT_TRUE(test::turn_until([&] { return called == 1; }));
 }
 

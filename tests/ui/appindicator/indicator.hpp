@@ -78,7 +78,7 @@ inline std::vector<GtkWidget*> menus() {
 // Chooses an entry and waits until the counter has moved.
 inline void choose_and_wait(const tray_item& item, const std::string& label, const int& counter) {
     const int before = counter;
-    EXPECT_TRUE(choose_tray_entry(item, label)) << label;
+    EXPECT_TRUE(turn_until([&] { return choose_tray_entry(item, label); })) << label;
     EXPECT_TRUE(turn_until([&] { return counter != before; })) << label;
 }
 
