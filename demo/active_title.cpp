@@ -8,7 +8,7 @@
 
 namespace {
 
-constexpr int widest = 28;  // characters
+constexpr int widest = 22;  // characters
 
 std::string active_title() {
     unsigned long window = 0;
@@ -47,7 +47,9 @@ GtkWidget* demo::active_title_new() {
     GtkWidget* label = gtk_label_new("");
     gtk_widget_set_name(label, "active-title");
     gtk_label_set_ellipsize(GTK_LABEL(label), PANGO_ELLIPSIZE_END);
+    gtk_label_set_width_chars(GTK_LABEL(label), widest);
     gtk_label_set_max_width_chars(GTK_LABEL(label), widest);
+    gtk_label_set_xalign(GTK_LABEL(label), 1);
     gtk_widget_set_margin_start(label, 8);
     gtk_widget_set_margin_end(label, 8);
     GdkWindow* root = gdk_get_default_root_window();
