@@ -192,6 +192,26 @@ void check_4() {
     check<void(int)>(zo_ui_set_fps);
     check<void(GtkWidget*)>(zo_ui_add_fps_widget);
     check<void()>(zo_ui_output_listeners_stats);
+}
+
+void check_messages() {
+    check<bool(zo_object_ptr)>(zo_is_notification);
+    check<zo_object_ptr(zo_notification_ptr)>(zo_notification_to_object);
+    check<zo_notification_ptr(zo_object_ptr)>(zo_notification_from_object);
+    check<zo_notification_ptr()>(zo_notification_new);
+    check<bool(zo_notification_ptr, std::string)>(zo_notification_set_title);
+    check<bool(zo_notification_ptr, std::string)>(zo_notification_set_content);
+    check<bool(zo_notification_ptr, int)>(zo_notification_set_timeout);
+    check<bool(zo_notification_ptr, bool)>(zo_notification_set_is_markup);
+    check<bool(zo_notification_ptr, zo_window_manager_ptr)>(zo_notification_set_manager);
+    check<bool(zo_notification_ptr, std::string, std::string, std::function<void(std::string)>)>(
+        zo_notification_add_action);
+    check<bool(zo_notification_ptr, std::function<void(zo_notification_ptr)>)>(zo_notification_on_close);
+    check<bool(zo_notification_ptr, std::function<bool(zo_notification_ptr, std::string&)>)>(
+        zo_notification_on_activate_link_callback);
+    check<bool(zo_notification_ptr)>(zo_notification_open_show);
+    check<bool(zo_notification_ptr)>(zo_notification_destroy);
+    check<unsigned long(zo_notification_ptr)>(zo_notification_get_id);
     check<bool(zo_object_ptr)>(zo_is_appindicator);
     check<zo_object_ptr(zo_appindicator_ptr)>(zo_appindicator_to_object);
     check<zo_appindicator_ptr(zo_object_ptr)>(zo_appindicator_from_object);
@@ -199,6 +219,9 @@ void check_4() {
     check<bool(zo_appindicator_ptr, std::string, std::string,
                std::function<void(zo_appindicator_ptr, std::string&)>)>(zo_appindicator_add_action);
     check<bool(zo_appindicator_ptr)>(zo_appindicator_show);
+}
+
+void check_theme() {
     check<void()>(zo_theme_init);
     check<void()>(zo_theme_uninit);
     check<void(std::string)>(zo_theme_set_theme_path);
@@ -215,4 +238,6 @@ void check_ui_signatures() {
     check_2();
     check_3();
     check_4();
+    check_messages();
+    check_theme();
 }
