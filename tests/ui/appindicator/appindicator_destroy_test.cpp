@@ -107,7 +107,7 @@ TEST_F(AppindicatorDestroy, LaterTasksDoNothing) {
     test::run_tasks();
     EXPECT_EQ(held.use_count(), 1);
     EXPECT_TRUE(test::menus().empty());
-    EXPECT_TRUE(test::tray_items().empty());
+    EXPECT_TRUE(test::tray_items_become("ending", 0));
     EXPECT_EQ(output.text(), "");
 }
 
