@@ -3,6 +3,9 @@
 #include "support/desktop.hpp"
 #include "support/ui.hpp"
 
+#include <signal.h>
+#include <unistd.h>
+
 namespace {
 
 std::pair<int, int> place_of(GtkWidget* toplevel) {
@@ -75,6 +78,47 @@ TEST(WindowPlace, AMoveInTheTurnOfTheHidingCounts) {
     }
 }
 
+// The window manager of the session does nothing for one scope, as a slow one would. It is a child of the
+// session's script, as this program is.
+class halted_manager {
+  public:
+    halted_manager()
+        : pid_(std::stoi("0" + test::run_command(
+                                   {"pgrep", "-x", "-P", std::to_string(getppid()), test::session_wm()}))) {
+        EXPECT_GT(pid_, 0);
+        if (pid_ > 0) kill(pid_, SIGSTOP);
+    }
+    ~halted_manager() {
+        if (pid_ > 0) kill(pid_, SIGCONT);
+    }
+    halted_manager(const halted_manager&) = delete;
+    halted_manager& operator=(const halted_manager&) = delete;
+
+  private:
+    int pid_;
+};
+
+// After an earlier move GTK answers that one's place, until the window manager has done the later one.
+TEST(WindowPlace, AMoveCountsThoughTheWindowManagerIsSlow) {
+    if (test::session_wm() == "none") return;
+    test::scoped_window window;
+    GtkWidget* toplevel = window.show();
+    test::settle_desktop();
+    zo_window_move(window, 330, 250);
+    ASSERT_TRUE(test::turn_until([&] { return place_of(toplevel) == std::pair(330, 250); }));
+    test::settle_desktop();
+    {
+        const halted_manager slow;
+        zo_window_move(window, 41, 52);
+        zo_window_hide(window);
+        zo_window_show(window);
+        test::run_tasks();
+    }
+    test::settle_desktop();
+    EXPECT_TRUE(test::turn_until([&] { return place_of(toplevel) == std::pair(41, 52); }))
+        << place_of(toplevel).first << "," << place_of(toplevel).second;
+}
+
 // Where somebody else moved it since is where it comes back.
 TEST(WindowPlace, AnOlderMoveDoesNotCount) {
     test::scoped_window window;
@@ -100,7 +144,11 @@ TEST(WindowPlace, AMoveBeforeTheClosingIsForgotten) {
     test::run_tasks();
     GtkWidget* toplevel = window.open();
     zo_window_show(window);
-    hide_and_show(window, toplevel);
+    zo_window_hide(window);
+    zo_window_show(window);
+    test::run_tasks();
+    ASSERT_TRUE(test::turn_until([&] { return test::is_on_screen(toplevel); }));
+    test::settle_desktop();
     EXPECT_NE(place_of(toplevel), std::pair(3, 4));
 }
 
