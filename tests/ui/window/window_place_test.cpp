@@ -5,6 +5,7 @@
 
 #include <signal.h>
 #include <unistd.h>
+#include <fstream>
 
 namespace {
 
@@ -78,13 +79,22 @@ TEST(WindowPlace, AMoveInTheTurnOfTheHidingCounts) {
     }
 }
 
-// The window manager of the session does nothing for one scope, as a slow one would. It is a child of the
-// session's script, as this program is.
+// A child of the session's script, as this program is; 0 when there is none.
+int manager_pid() {
+    const std::string session = "/proc/" + std::to_string(getppid());
+    std::ifstream children(session + "/task/" + std::to_string(getppid()) + "/children");
+    for (int child = 0; children >> child;) {
+        std::string name;
+        std::getline(std::ifstream("/proc/" + std::to_string(child) + "/comm"), name);
+        if (name == test::session_wm()) return child;
+    }
+    return 0;
+}
+
+// The window manager of the session does nothing for one scope, as a slow one would.
 class halted_manager {
   public:
-    halted_manager()
-        : pid_(std::stoi("0" + test::run_command(
-                                   {"pgrep", "-x", "-P", std::to_string(getppid()), test::session_wm()}))) {
+    halted_manager() : pid_(manager_pid()) {
         EXPECT_GT(pid_, 0);
         if (pid_ > 0) kill(pid_, SIGSTOP);
     }
