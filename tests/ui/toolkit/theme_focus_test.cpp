@@ -2,6 +2,7 @@
 // The ring around the focused button of a tool menu is seen in every state that the button can have.
 #include "support/ui.hpp"
 
+#include <algorithm>
 #include <cmath>
 #include <cstdlib>
 
@@ -31,7 +32,7 @@ double luminance(const GdkRGBA& colour) {
 }
 
 double contrast(const GdkRGBA& one, const GdkRGBA& other) {
-    const auto [low, high] = std::minmax(luminance(one), luminance(other));
+    const auto [low, high] = std::minmax({luminance(one), luminance(other)});
     return (high + 0.05) / (low + 0.05);
 }
 
