@@ -10,7 +10,9 @@
 int main(int argc, char** argv) {
     gtk_init(&argc, &argv);
     const bool by_exit = argc > 1 && std::string(argv[1]) == "exit";
-    const zo_appindicator_ptr indicator = zo_appindicator_new("leaving", "Leaving", "icon");
+    // Never destroyed, like the indicator: a leak to nobody but a program that goes on.
+    static const auto& indicator =
+        *new zo_appindicator_ptr(zo_appindicator_new("leaving", "Leaving", "icon"));
     zo_appindicator_add_action(indicator, "leave", "Leave", [by_exit](zo_appindicator_ptr, std::string&) {
         if (by_exit) std::exit(0);
         gtk_main_quit();
