@@ -20,3 +20,10 @@ void zo::set_tooltip(GtkWidget* widget, const std::string& markup) {
     const std::unique_ptr<char, decltype(&g_free)> text(gtk_widget_get_tooltip_text(widget), g_free);
     atk_object_set_name(gtk_widget_get_accessible(widget), text ? text.get() : "");
 }
+
+std::string zo::readable(const std::string& text) {
+    const auto size = static_cast<gssize>(text.size());
+    if (g_utf8_validate(text.data(), size, nullptr)) return text;
+    const std::unique_ptr<char, decltype(&g_free)> valid(g_utf8_make_valid(text.data(), size), g_free);
+    return valid.get();
+}

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Style classes, names and accessible names of widgets.
+// Style classes, accessible names and texts of widgets.
 #pragma once
 
 #include <gtk/gtk.h>
@@ -15,5 +15,8 @@ bool has_class(GtkWidget* widget, const char* name);
 // Sets the tooltip and, for a button that shows only an icon, the same text as the name that assistive
 // programs read.
 void set_tooltip(GtkWidget* widget, const std::string& markup);
+
+// Toolkit and buses refuse a text that is not UTF-8 altogether: this is what can be read of it.
+std::string readable(const std::string& text);
 
 }  // namespace zo

@@ -26,12 +26,7 @@ void _zo_notification::close_for_good() {
     callables.on_close = nullptr;
     while (!callables.actions.empty()) callables.actions.erase(callables.actions.begin());
     set_destroyed(true);
-    zo_window_manager_ptr manager;
-    {
-        const zo::property_guard guard(*this, source::file, source::settings);
-        manager.swap(manager_);
-    }
-    manager.reset();
+    let_go_of_manager();
     while (is_reffed()) zo_object_unref_real(self);
 }
 
@@ -48,6 +43,7 @@ void _zo_notification::_close() {
         if (popup && !gtk_widget_in_destruction(popup)) gtk_widget_destroy(popup);
         if (stack.popups) zo::restack(stack);
     }
+    let_go_of_manager();
     set_opened(false);
 }
 

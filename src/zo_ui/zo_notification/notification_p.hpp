@@ -64,6 +64,7 @@ class _zo_notification : public _zo_object {
     zo::notification_text text();
     zo_window_manager_ptr manager();
     zo::notification_callables begin_closing();
+    void let_go_of_manager();
 
     // The popup's tree, notification_popup.cpp.
     void build_popup(const zo::notification_text& text);
@@ -75,7 +76,7 @@ class _zo_notification : public _zo_object {
 
     // Showing, notification_showing.cpp.
     void place();
-    void enter_stack(zo_window_manager_ptr owner, zo::popup_container& popups, int x);
+    void enter_stack(zo::popup_stack stack);
     void leave_stack();
     void join_list_of(const zo_window_manager_ptr& manager);
     void leave_list();

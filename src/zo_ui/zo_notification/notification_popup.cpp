@@ -40,15 +40,6 @@ void pack(GtkWidget* box, GtkWidget* child, bool fill = false, guint padding = 0
     gtk_box_pack_start(GTK_BOX(box), child, fill, fill, padding);
 }
 
-// GTK refuses text that is not UTF-8 altogether; what can be read of it is shown.
-std::string readable(const std::string& text) {
-    if (g_utf8_validate(text.data(), static_cast<gssize>(text.size()), nullptr)) return text;
-    char* valid = g_utf8_make_valid(text.data(), static_cast<gssize>(text.size()));
-    std::string result(valid);
-    g_free(valid);
-    return result;
-}
-
 bool is_empty(GtkLabel* label) {
     const char* text = gtk_label_get_text(label);
     return !text || !*text;
@@ -91,7 +82,7 @@ void break_long_words(GtkWidget* label) {
 }  // namespace
 
 void _zo_notification::build_popup(const zo::notification_text& text) {
-    const zo::notification_text shown{readable(text.title), readable(text.content), text.is_markup};
+    const zo::notification_text shown{zo::readable(text.title), text.content, text.is_markup};
     widgets_.window = toplevel_new(shown.title);
     place_ = {};
     zo::note_place(widgets_.window, &place_);
@@ -153,11 +144,11 @@ void _zo_notification::build_content(const zo::notification_text& text) {
 
 void _zo_notification::fill_content_label(const zo::notification_text& text) {
     auto* label = GTK_LABEL(widgets_.content_label);
-    if (!text.is_markup) return gtk_label_set_text(label, text.content.c_str());
-    gtk_label_set_markup(label, text.content.c_str());
-    if (text.content.empty() || !is_empty(label)) return;
-    zo::log_line("setting text instead of markap after error");
-    gtk_label_set_text(label, text.content.c_str());
+    const std::string content = zo::readable(text.content);
+    if (text.is_markup && content == text.content) gtk_label_set_markup(label, content.c_str());
+    if (content.empty() || !is_empty(label)) return;
+    if (text.is_markup) zo::log_line("setting text instead of markap after error");
+    gtk_label_set_text(label, content.c_str());
 }
 
 void _zo_notification::build_actions() {
@@ -170,7 +161,7 @@ void _zo_notification::build_actions() {
     widgets_.action_box = box_new(GTK_ORIENTATION_HORIZONTAL, 1, "action-box");
     const int characters = std::max(line_characters / static_cast<int>(actions.size()), 6);
     for (const auto& [name, label] : actions) {
-        GtkWidget* button = gtk_button_new_with_label(readable(label).c_str());
+        GtkWidget* button = gtk_button_new_with_label(zo::readable(label).c_str());
         gtk_widget_set_name(button, name.c_str());
         shorten(gtk_bin_get_child(GTK_BIN(button)), characters);
         if (actions.size() == 1) zo::add_class(button, "only_one");

@@ -59,6 +59,12 @@ void _zo_notification::set_on_link(std::function<bool(zo_notification_ptr, std::
     if (!closing_) callables_.on_link.swap(callback);
 }
 
+void _zo_notification::let_go_of_manager() {
+    zo_window_manager_ptr left;  // outlives the lock
+    const zo::property_guard guard(*this, source::file, source::settings);
+    left.swap(manager_);
+}
+
 bool _zo_notification::is_closing() {
     const zo::property_guard guard(*this, source::file, source::settings);
     return closing_;

@@ -12,10 +12,7 @@ namespace source = zo::notification_source;
 
 namespace {
 
-// Left edges: of the process's stack, and, from the right end of the screen, of a manager's and of a popup
-// that is not stacked.
-constexpr int global_x = 50;
-constexpr int manager_x = 570;
+// Of a popup that is not stacked, from the right end of the screen.
 constexpr int free_x = 500;
 constexpr int free_y = 50;
 
@@ -65,15 +62,14 @@ void _zo_notification::place() {
         leave_stack();
         return zo::move_popup(widgets_.window, place_, zo_ui_screen_width() - free_x, free_y);
     }
-    const int x = manager ? zo_ui_screen_width() - manager_x : global_x;
-    enter_stack(std::move(manager), *popups, x);
+    enter_stack({std::move(manager), popups});
 }
 
-void _zo_notification::enter_stack(zo_window_manager_ptr owner, zo::popup_container& popups, int x) {
-    if (stack_.popups != &popups) leave_stack();
-    zo::move_popup(widgets_.window, place_, x, zo::y_below(popups, id_, !owner));
-    popups.try_emplace(id_, widgets_.window);
-    stack_ = {std::move(owner), &popups, x};
+void _zo_notification::enter_stack(zo::popup_stack stack) {
+    if (stack_.popups != stack.popups) leave_stack();
+    zo::move_popup(widgets_.window, place_, zo::x_of(stack), zo::y_below(stack, id_));
+    stack.popups->try_emplace(id_, widgets_.window);
+    stack_ = std::move(stack);
 }
 
 // The popup itself is no longer of the stack when the others move up.
@@ -101,7 +97,7 @@ void _zo_notification::leave_list() {
 void _zo_notification::announce() {
     AtkObject* popup = gtk_widget_get_accessible(widgets_.window);
     if (!g_signal_lookup("announcement", G_OBJECT_TYPE(popup))) return;
-    std::string words = text().title;
+    std::string words = gtk_label_get_text(GTK_LABEL(widgets_.title_label));
     words += words.empty() ? "" : "\n";
     words += gtk_label_get_text(GTK_LABEL(widgets_.content_label));
     g_signal_emit_by_name(popup, "announcement", words.c_str());

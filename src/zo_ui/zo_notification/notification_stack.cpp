@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include <zo_ui/zo_notification/notification_stack_p.hpp>
 
+#include <zo_ui/zo_ui_screen.hpp>
+
 #include <algorithm>
 #include <climits>
 #include <optional>
@@ -9,6 +11,8 @@ namespace {
 
 constexpr int top = 75;
 constexpr int gap = 2;
+constexpr int global_x = 50;
+constexpr int manager_x = 570;  // from the right end of the screen
 
 GQuark place_quark() {
     static const GQuark quark = g_quark_from_static_string("zo-popup-place");
@@ -27,17 +31,17 @@ int height_of(GtkWidget* popup, const zo::popup_place* own) {
     return height;
 }
 
+// X counts positions in 16 bits: a stack that is longer would come in again from above. What lies further
+// down stays out of sight.
+int on_the_server(GtkWidget* popup, int y) {
+    return std::min(y, SHRT_MAX / gtk_widget_get_scale_factor(popup));
+}
+
 int y_of(GtkWidget* popup, const zo::popup_place* own) {
     if (own) return own->y;
     int y = 0;
     gtk_window_get_position(GTK_WINDOW(popup), nullptr, &y);
     return y;
-}
-
-// X counts positions in 16 bits: a stack that is longer would come in again from above. What lies further
-// down stays out of sight.
-int on_the_server(GtkWidget* popup, int y) {
-    return std::min(y, SHRT_MAX / gtk_widget_get_scale_factor(popup));
 }
 
 }  // namespace
@@ -52,16 +56,19 @@ void zo::note_place(GtkWidget* popup, popup_place* place) {
 }
 
 void zo::move_popup(GtkWidget* popup, popup_place& place, int x, int y) {
+    // The toolkit's own memory of it follows late: events of an earlier move may still be on their way.
     const bool there = place.x == x && place.y == y && gtk_widget_get_mapped(popup);
     place.x = x;
     place.y = y;
     if (!there) gtk_window_move(GTK_WINDOW(popup), x, on_the_server(popup, y));
 }
 
-int zo::y_below(const popup_container& popups, unsigned long id, bool whole) {
+int zo::x_of(const popup_stack& stack) { return stack.owner ? zo_ui_screen_width() - manager_x : global_x; }
+
+int zo::y_below(const popup_stack& stack, unsigned long id) {
     int y = top;
-    for (const auto& [other, popup] : popups) {
-        if (other == id && !whole) break;
+    for (const auto& [other, popup] : *stack.popups) {
+        if (other == id && stack.owner) break;
         if (other == id || !popup || !GTK_IS_WINDOW(popup)) continue;
         const popup_place* own = own_place(popup);
         y = std::max(y, y_of(popup, own) + gap + height_of(popup, own));
@@ -70,15 +77,16 @@ int zo::y_below(const popup_container& popups, unsigned long id, bool whole) {
 }
 
 void zo::restack(const popup_stack& stack) {
+    const int x = x_of(stack);
     int y = top;
     for (const auto& [id, popup] : *stack.popups) {
         if (!popup || !GTK_IS_WINDOW(popup)) continue;
         popup_place* own = own_place(popup);
         const int height = height_of(popup, own);
         if (own)
-            move_popup(popup, *own, stack.x, y);
+            move_popup(popup, *own, x, y);
         else
-            gtk_window_move(GTK_WINDOW(popup), stack.x, y);
+            gtk_window_move(GTK_WINDOW(popup), x, y);
         y = y_of(popup, own) + gap + height;
     }
 }

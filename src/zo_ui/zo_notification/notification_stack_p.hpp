@@ -12,11 +12,14 @@ popup_container& global_notification_container();
 // Notes the library's own record of a popup's place with the popup; null takes it away.
 void note_place(GtkWidget* popup, popup_place* place);
 
-// Moves a popup that has a record. A place that it has on screen already costs nothing.
+// Moves a popup that has a record. Where it is on screen already, that costs nothing.
 void move_popup(GtkWidget* popup, popup_place& place, int x, int y);
 
-// The y below all popups older than `id`, or, with `whole`, below every other one.
-int y_below(const popup_container& popups, unsigned long id, bool whole);
+// The left edge of a stack: a manager's stands at the right of the screen, the process's at the left.
+int x_of(const popup_stack& stack);
+
+// The y for the popup of `id`: below the older ones of a manager's stack, below all of the process's.
+int y_below(const popup_stack& stack, unsigned long id);
 
 // Closes the gaps, also those of hidden popups. What is not a window is passed over.
 void restack(const popup_stack& stack);

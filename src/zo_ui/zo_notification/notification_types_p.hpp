@@ -56,7 +56,6 @@ struct popup_place {
 struct popup_stack {
     zo_window_manager_ptr owner;
     popup_container* popups = nullptr;
-    int x = 0;
 };
 
 }  // namespace zo

@@ -18,9 +18,10 @@ void _zo_window::set_window_manager(zo_window_manager_ptr manager) {
 void _zo_window::join(const zo_window_manager_ptr& manager) {
     const zo_window_manager_ptr left = manager_.load();
     if (is_destroyed() || left == manager) return;
+    const unsigned link = ++links_;
     tell_manager(&zo::window_host::disconnect_window);
-    // The manager that was left may have run a later link, or the window's end.
-    if (is_destroyed() || manager_.load() != left) return;
+    // The manager that was left may have run a later link, even one to itself, or the window's end.
+    if (is_destroyed() || links_ != link) return;
     manager_.store(manager);
     tell_manager(&zo::window_host::connect_window);
 }

@@ -111,16 +111,19 @@ TEST_F(NotificationClose, WhenItsTimeIsOver) {
 
 TEST_F(NotificationClose, WithoutATimeNeverByItself) {
     const test::scoped_notification negative("negative");
+    const test::scoped_notification zero("zero");
     const test::scoped_notification timed("timed");
-    zo_notification_set_timeout(notification, 0);
+    zo_notification_set_timeout(zero, 0);
     zo_notification_set_timeout(negative, -50);
     zo_notification_set_timeout(timed, 60);
     notification.show();
     negative.show();
+    zero.show();
     timed.show();
     EXPECT_TRUE(test::turn_until([&] { return test::state_of(timed).destroyed; }));
     EXPECT_TRUE(test::state_of(notification).visible);
     EXPECT_TRUE(test::state_of(negative).visible);
+    EXPECT_TRUE(test::state_of(zero).visible);
 }
 
 TEST_F(NotificationClose, BeforeItsTimeLeavesNothingBehind) {
@@ -139,6 +142,7 @@ TEST_F(NotificationClose, WhenSomebodyElseDestroysThePopup) {
     GtkWidget* popup = notification.show();
     GtkWidget* other = below.show();
     gtk_widget_destroy(popup);
+    EXPECT_EQ(test::state_of(notification), (state{false, false, true}));
     expect_closed();
     EXPECT_EQ(called, calls{"close"});
     EXPECT_TRUE(test::comes_to(other, {50, 75}));

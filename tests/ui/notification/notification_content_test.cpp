@@ -58,6 +58,9 @@ TEST(NotificationContent, EmptyIsNoError) {
 TEST(NotificationContent, WhatIsNotUtf8IsShownAsFarAsItCanBeRead) {
     const shown latin = show("caf\xe9", false);
     EXPECT_EQ(latin.text, "caf\xef\xbf\xbd");
+    const shown markup = show("<b>caf\xe9</b>", true);
+    EXPECT_EQ(markup.text, "<b>caf\xef\xbf\xbd</b>");
+    EXPECT_EQ(markup.lines, std::vector<std::string>{fallback});
     const test::scoped_notification titled("caf\xe9", "c");
     titled.show();
     const std::vector<GtkWidget*> popups = test::toplevels("zo-notification");

@@ -90,7 +90,7 @@ TEST_F(NotificationMany, AreSetUpByAllThreadsAtOnce) {
     const test::scoped_notification shared;
     std::vector<std::thread> workers;
     for (int i = 0; i < threads; ++i)
-        workers.emplace_back([&shared, this, i] {
+        workers.emplace_back([&shared, this] {
             for (int j = 0; j < each; ++j) {
                 zo_notification_set_title(shared, "t" + std::to_string(j));
                 zo_notification_set_content(shared, "c" + std::to_string(j));
@@ -98,7 +98,7 @@ TEST_F(NotificationMany, AreSetUpByAllThreadsAtOnce) {
                 zo_notification_set_is_markup(shared, j % 2 == 0);
                 zo_notification_set_manager(shared, j % 2 == 0 ? panel.get() : zo_window_manager_ptr());
                 zo_notification_add_action(shared, std::to_string(j % 10), "l", [](const std::string&) {});
-                zo_notification_on_close(shared, [i](const zo_notification_ptr&) { EXPECT_LT(i, threads); });
+                zo_notification_on_close(shared, [this](const zo_notification_ptr&) { ++closed; });
                 zo_notification_on_activate_link_callback(shared, [](auto, auto) { return true; });
                 zo_notification_open_show(shared);
             }
@@ -106,6 +106,8 @@ TEST_F(NotificationMany, AreSetUpByAllThreadsAtOnce) {
     for (std::thread& worker : workers) worker.join();
     test::run_tasks();
     EXPECT_TRUE(test::state_of(shared).opened);
+    shared.close();
+    EXPECT_EQ(closed, 1);
 }
 
 }  // namespace

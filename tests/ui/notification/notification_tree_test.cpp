@@ -75,6 +75,8 @@ TEST_F(NotificationTree, TheWindow) {
         reinterpret_cast<gpointer>(&zo_ui_gtk_fix_visual_rgba_on_screen_changed), nullptr));
     GdkVisual* with_alpha = gdk_screen_get_rgba_visual(gdk_screen_get_default());
     EXPECT_EQ(gtk_widget_get_visual(popup), with_alpha);
+    for (const char* hint : {"_NET_WM_STATE_ABOVE", "_NET_WM_STATE_SKIP_TASKBAR", "_NET_WM_STATE_SKIP_PAGER"})
+        EXPECT_TRUE(test::x_property_becomes(popup, "_NET_WM_STATE", hint)) << hint;
     EXPECT_EQ(test::x_property(popup, "_NET_WM_WINDOW_TYPE"),
               "_NET_WM_WINDOW_TYPE(ATOM) = _NET_WM_WINDOW_TYPE_NOTIFICATION\n");
 }

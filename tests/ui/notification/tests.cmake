@@ -7,14 +7,15 @@ zo_ui_test(notification/notification_null_handles_test notification/notification
   notification/notification_close_test notification/notification_link_test notification/notification_many_test
   notification/notification_service_end_test)
 zo_ui_inner_test(notification/notification_table_test notification/notification_timeout_test
-  notification/notification_requests_test)
+  notification/notification_requests_test notification/notification_posts_test notification/notification_order_test)
 zo_test(notification_accessibility_test FILES ui/notification/notification_accessibility_test.cpp
   LIBRARIES ui_support zo_ui SESSIONS openbox)
 zo_test(notification_displayless_test FILES ui/notification/notification_displayless_test.cpp LIBRARIES zo_ui)
-foreach(name null_handles tree content stack manager close link many service_end table timeout requests
+foreach(name null_handles tree content stack manager close link many service_end table timeout requests posts
+    order
     accessibility)
   target_link_libraries(notification_${name}_test PRIVATE popup_support)
 endforeach()
-foreach(name manager many timeout)
+foreach(name manager many timeout order)
   target_link_libraries(notification_${name}_test PRIVATE panel_support)
 endforeach()

@@ -160,6 +160,22 @@ TEST_F(WindowManagerLink, ALaterLinkInsideAnEarlierHolds) {
     link({});
 }
 
+// Even one to the manager that is being left.
+TEST_F(WindowManagerLink, ALaterWayBackInsideALeavingHolds) {
+    link(m);
+    log.take();
+    log.inside("m:disconnect", [&](const zo_window_ptr& w) {
+        zo_window_set_window_manager(w, {});
+        zo_window_set_window_manager(w, m);
+        test::run_tasks();
+    });
+    zo_window_set_window_manager(window, n);
+    test::run_tasks();
+    EXPECT_EQ(present(), m);
+    EXPECT_EQ(log.take_names(), "m:disconnect m:disconnect m:connect");
+    link({});
+}
+
 TEST_F(WindowManagerLink, TheGetterNeedsNoLock) {
     link(m);
     const zo_object_ptr object = zo_window_to_object(window);
