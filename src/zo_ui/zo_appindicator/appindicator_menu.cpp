@@ -74,32 +74,45 @@ void _zo_appindicator::show_now() {
         zo_assertion_faild(false, "display != nullptr", texts.name, source::file, source::no_display);
         return;
     }
-    iw->menu = GTK_WIDGET(g_object_ref_sink(new_menu(*iw)));
-    show_icon(texts);
+    if (must_wait(texts))
+        iw->menu = new_menu(*iw);
+    else
+        show_icon(*iw, texts);
 }
 
-void _zo_appindicator::show_icon(const zo::icon_texts& texts) {
-    const indicator_data_ptr iw = record(source::show_task_record);
-    if (!iw || !iw->menu || iw->indicator) return;
-    const auto again = [weak = boost::weak_ptr<_zo_appindicator>(handle()), texts] {
+bool _zo_appindicator::must_wait(const zo::icon_texts& texts) {
+    return zo::must_wait_for_place(texts.name, [weak = boost::weak_ptr<_zo_appindicator>(handle()), texts] {
         const zo_appindicator_ptr self = weak.lock();
-        if (self)
-            zo_system_service_exec([self, texts] { self->show_icon(texts); }, source::file, source::show);
-    };
-    if (zo::must_wait_for_place(texts.name, again)) return;
+        if (!self) return false;
+        zo_system_service_exec([self, texts] { self->show_after_waiting(texts); }, source::file,
+                               source::show);
+        return true;
+    });
+}
+
+void _zo_appindicator::show_after_waiting(const zo::icon_texts& texts) {
+    const indicator_data_ptr iw = record(source::show_task_record);
+    if (!iw)
+        zo::leave_unused_bus();
+    else if (!must_wait(texts))
+        show_icon(*iw, texts);
+}
+
+void _zo_appindicator::show_icon(indicator_data& iw, const zo::icon_texts& texts) {
     const auto& [icon, name, title, label] = texts;
-    iw->indicator = zo::new_icon(name, icon);
-    app_indicator_set_attention_icon(iw->indicator, icon.c_str());
-    if (!title.empty()) app_indicator_set_title(iw->indicator, title.c_str());
-    app_indicator_set_status(iw->indicator, APP_INDICATOR_STATUS_ACTIVE);
-    if (!label.empty()) app_indicator_set_label(iw->indicator, label.c_str(), "guide");
-    app_indicator_set_menu(iw->indicator, GTK_MENU(iw->menu));
+    iw.indicator = zo::new_icon(name, icon);
+    app_indicator_set_attention_icon(iw.indicator, icon.c_str());
+    if (!title.empty()) app_indicator_set_title(iw.indicator, title.c_str());
+    app_indicator_set_status(iw.indicator, APP_INDICATOR_STATUS_ACTIVE);
+    if (!label.empty()) app_indicator_set_label(iw.indicator, label.c_str(), "guide");
+    if (!iw.menu) iw.menu = new_menu(iw);
+    app_indicator_set_menu(iw.indicator, GTK_MENU(iw.menu));
 }
 
 // Every item lies in the same cell (test "EveryItemIsAttachedToTheSameCell"): hosts show the items in the
-// order of attaching.
+// order of attaching. The menu is the caller's.
 GtkWidget* _zo_appindicator::new_menu(const indicator_data& iw) {
-    GtkWidget* const menu = gtk_menu_new();
+    GtkWidget* const menu = GTK_WIDGET(g_object_ref_sink(gtk_menu_new()));
     gtk_widget_show(menu);
     for (const auto& [name, action] : iw.actions) {
         GtkWidget* const item = gtk_menu_item_new_with_label(action.first.c_str());

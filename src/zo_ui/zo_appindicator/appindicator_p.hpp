@@ -28,8 +28,8 @@ class indicator_data {
     // Takes the icon and its menu away; with the toolkit going away itself they are only forgotten.
     void release();
 
-    AppIndicator* indicator = nullptr;  // owned; null until shown, for a moment longer than the menu
-    GtkWidget* menu = nullptr;          // owned; null until shown
+    AppIndicator* indicator = nullptr;  // owned; null until shown
+    GtkWidget* menu = nullptr;          // owned; null until shown, there before an icon that has to wait
     std::map<std::string, std::pair<std::string, callback_function>> actions;  // name to label and callback
 };
 
@@ -80,7 +80,9 @@ class _zo_appindicator : public _zo_object {
 
     void add_action_now(const std::string& name, std::string& label, callback_function& callback);
     void show_now();
-    void show_icon(const zo::icon_texts& texts);
+    void show_after_waiting(const zo::icon_texts& texts);
+    bool must_wait(const zo::icon_texts& texts);
+    void show_icon(indicator_data& iw, const zo::icon_texts& texts);
     void destroy_now();
     GtkWidget* new_menu(const indicator_data& iw);
     void on_item_activated(GtkMenuItem* item);

@@ -1,8 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include <zo_ui/zo_appindicator/appindicator_place_p.hpp>
 
+#include <chrono>
+#include <condition_variable>
 #include <map>
 #include <memory>
+#include <mutex>
+#include <thread>
 #include <utility>
 #include <vector>
 
@@ -15,7 +19,20 @@ struct places {
     GDBusConnection* connection = nullptr;  // owned; null without a bus
     int living = 0;                         // icons, those that were let go too
     std::map<std::string, int> leaving;     // icons that were let go and live, by name
-    std::vector<std::function<void()>> waiting;
+    std::vector<std::function<bool()>> waiting;
+};
+
+// What the bus says to somebody who may have stopped waiting; then nobody keeps the connection.
+struct bus_answer {
+    bus_answer() = default;
+    bus_answer(const bus_answer&) = delete;
+    bus_answer& operator=(const bus_answer&) = delete;
+    ~bus_answer() { g_clear_object(&connection); }
+
+    std::mutex mutex;
+    std::condition_variable arrival;
+    bool here = false;
+    GDBusConnection* connection = nullptr;  // owned; null without a bus
 };
 
 places& all() {
@@ -23,15 +40,48 @@ places& all() {
     return instance;
 }
 
-void wake_waiting() {
-    for (const auto& then : std::exchange(all().waiting, {})) then();
+// True when one of them wants its place still.
+bool wake_waiting() {
+    bool wanted = false;
+    for (const auto& then : std::exchange(all().waiting, {})) wanted = then() || wanted;
+    return wanted;
 }
 
 // Without a bus the icon is made all the same: the indicator library says what is wrong.
-void on_bus(GObject*, GAsyncResult* result, gpointer) {
-    all().connection = g_bus_get_finish(result, nullptr);
+void take_connection(GDBusConnection* connection) {
+    all().connection = connection;
     all().bus = bus_state::answered;
-    wake_waiting();
+}
+
+// Mostly too late: then the one who waited for the bus has the connection already, or nobody wants it.
+void on_bus(GObject*, GAsyncResult* result, gpointer) {
+    GDBusConnection* connection = g_bus_get_finish(result, nullptr);
+    if (all().bus != bus_state::asked) {
+        g_clear_object(&connection);
+        return;
+    }
+    take_connection(connection);
+    if (!wake_waiting()) zo::leave_unused_bus();
+}
+
+// The connection belongs to the context in which it is asked for first, and tells its end there: so that is
+// the loop's. Turning the loop from here would run tasks within a task; another thread waits for the same
+// connection instead, and a bus that is there answers at once.
+void ask_bus() {
+    constexpr std::chrono::milliseconds patience(200);
+    all().bus = bus_state::asked;
+    g_bus_get(G_BUS_TYPE_SESSION, nullptr, on_bus, nullptr);
+    const auto answer = std::make_shared<bus_answer>();
+    std::thread([answer] {
+        GDBusConnection* const connection = g_bus_get_sync(G_BUS_TYPE_SESSION, nullptr, nullptr);
+        const std::lock_guard lock(answer->mutex);
+        answer->connection = connection;
+        answer->here = true;
+        answer->arrival.notify_one();
+    }).detach();
+    std::unique_lock lock(answer->mutex);
+    if (answer->arrival.wait_for(lock, patience, [&] { return answer->here; }))
+        take_connection(std::exchange(answer->connection, nullptr));
 }
 
 // Another question of the same kind, answered before the loop goes on: behind a few of them the one that the
@@ -58,23 +108,24 @@ void on_icon_left(gpointer data, GObject*) {
     const std::unique_ptr<std::string> name(static_cast<std::string*>(data));
     const auto place = all().leaving.find(*name);
     if (place != all().leaving.end() && --place->second == 0) all().leaving.erase(place);
-    if (--all().living == 0) {
-        all().bus = bus_state::unasked;
-        g_clear_object(&all().connection);
-    }
+    --all().living;
+    zo::leave_unused_bus();
     wake_waiting();
 }
 
 }  // namespace
 
-bool zo::must_wait_for_place(const std::string& name, std::function<void()> then) {
+bool zo::must_wait_for_place(const std::string& name, std::function<bool()> then) {
+    if (all().bus == bus_state::unasked) ask_bus();
     if (all().bus == bus_state::answered && !all().leaving.count(name)) return false;
     all().waiting.push_back(std::move(then));
-    if (all().bus == bus_state::unasked) {
-        all().bus = bus_state::asked;
-        g_bus_get(G_BUS_TYPE_SESSION, nullptr, on_bus, nullptr);
-    }
     return true;
+}
+
+void zo::leave_unused_bus() {
+    if (all().living > 0 || all().bus != bus_state::answered) return;
+    all().bus = bus_state::unasked;
+    g_clear_object(&all().connection);
 }
 
 AppIndicator* zo::new_icon(const std::string& name, const std::string& icon) {

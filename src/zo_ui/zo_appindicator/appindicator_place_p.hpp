@@ -15,9 +15,13 @@
 
 namespace zo {
 
-// False when an icon of this name can be made now. Otherwise `then` is called, once, when it is worth asking
-// again; it must not touch the toolkit.
-bool must_wait_for_place(const std::string& name, std::function<void()> then);
+// False when an icon of this name can be made now; a bus that answers promptly is waited for. Otherwise
+// `then` is called, once, when it is worth asking again, and says whether the place is wanted still; it must
+// not touch the toolkit.
+bool must_wait_for_place(const std::string& name, std::function<bool()> then);
+
+// For who got a place and makes no icon: without any icon the connection is not held.
+void leave_unused_bus();
 
 // The new icon is the caller's until let_icon_go.
 AppIndicator* new_icon(const std::string& name, const std::string& icon);

@@ -20,7 +20,7 @@ endfunction()
 zo_tray_test(appindicator_show_test appindicator_menu_test appindicator_callback_test appindicator_destroy_test
   appindicator_icon_test appindicator_host_test appindicator_no_bus_test appindicator_null_handles_test
   appindicator_reports_test appindicator_threads_test appindicator_service_end_test)
-zo_tray_inner_test(appindicator_posts_test appindicator_table_test)
+zo_tray_inner_test(appindicator_posts_test appindicator_table_test appindicator_late_bus_test)
 zo_test(appindicator_displayless_test FILES ui/appindicator/appindicator_displayless_test.cpp
   LIBRARIES zo_ui PkgConfig::GTK3)
 
