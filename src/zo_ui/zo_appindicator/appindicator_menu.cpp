@@ -4,6 +4,7 @@
 
 #include <zo_core/zo_diagnostics.hpp>
 #include <zo_core/zo_service.hpp>
+#include <zo_ui/toolkit/style_p.hpp>
 #include <zo_ui/zo_appindicator/appindicator_place_p.hpp>
 #include <zo_ui/zo_ui_connect.hpp>
 
@@ -69,6 +70,8 @@ void _zo_appindicator::show_now() {
         guard.read("title", texts.title, {"&title"});
         guard.read("label", texts.label, {"&label"});
     }
+    for (std::string* text : {&texts.icon, &texts.name, &texts.title, &texts.label})
+        *text = zo::readable(*text);
     if (texts.name.empty()) return;
     if (!gdk_display_get_default()) {
         zo_assertion_faild(false, "display != nullptr", texts.name, source::file, source::no_display);
@@ -115,7 +118,7 @@ GtkWidget* _zo_appindicator::new_menu(const indicator_data& iw) {
     GtkWidget* const menu = GTK_WIDGET(g_object_ref_sink(gtk_menu_new()));
     gtk_widget_show(menu);
     for (const auto& [name, action] : iw.actions) {
-        GtkWidget* const item = gtk_menu_item_new_with_label(action.first.c_str());
+        GtkWidget* const item = gtk_menu_item_new_with_label(zo::readable(action.first).c_str());
         gtk_widget_set_name(item, name.c_str());
         zo_ui_connect_menuitem_click_signal(
             item, [self = handle()](GtkMenuItem* clicked) { self->on_item_activated(clicked); });

@@ -155,6 +155,17 @@ TEST_F(AppindicatorMenu, AnItemOfNoActionDoesNothing) {
     EXPECT_EQ(called, 1);
 }
 
+// The name goes nowhere but back to the callback, byte by byte.
+TEST_F(AppindicatorMenu, ALabelThatIsNotUtf8IsShownAsFarAsItGoes) {
+    std::string clicked;
+    zo_appindicator_add_action(indicator, "a\xff", "Caf\xe9", [&](zo_appindicator_ptr, std::string& name) {
+        clicked = name;
+        ++called;
+    });
+    test::choose_and_wait(show(), "Caf\xef\xbf\xbd", called);
+    EXPECT_EQ(clicked, "a\xff");
+}
+
 TEST_F(AppindicatorMenu, AnEmptyNameAndAnEmptyLabelAreAnActionToo) {
     indicator.count("", "No name", called);
     add(indicator, "x", "");

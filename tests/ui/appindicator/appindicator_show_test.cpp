@@ -102,6 +102,27 @@ TEST_F(AppindicatorShow, ReadsItsPropertiesInTheTask) {
     EXPECT_EQ(test::item_text(test::wait_for_tray_item("early"), "XAyatanaLabel"), "set in time");
 }
 
+// The bus takes only UTF-8: what can be read of other texts is shown, and nobody is warned.
+TEST_F(AppindicatorShow, TextsThatAreNotUtf8AreShownAsFarAsTheyGo) {
+    test::scoped_indicator indicator("na\xffme", "Caf\xe9", "ic\xffon");
+    set_label(indicator,
+              "la\xff"
+              "bel");
+    indicator.show();
+    const test::tray_item item = test::wait_for_tray_item("na\xef\xbf\xbdme");
+    EXPECT_EQ(test::item_text(item, "Title"), "Caf\xef\xbf\xbd");
+    EXPECT_EQ(test::item_text(item, "IconName"), "ic\xef\xbf\xbdon");
+    EXPECT_EQ(test::item_text(item, "AttentionIconName"), "ic\xef\xbf\xbdon");
+    EXPECT_EQ(test::item_text(item, "XAyatanaLabel"),
+              "la\xef\xbf\xbd"
+              "bel");
+    // The place of the readable name is free again.
+    indicator.destroy();
+    test::scoped_indicator next("na\xffme");
+    next.show();
+    test::wait_for_tray_item("na\xef\xbf\xbdme");
+}
+
 TEST_F(AppindicatorShow, SeveralAreSeveral) {
     test::scoped_indicator first("first", "First");
     test::scoped_indicator second("second", "Second");
