@@ -147,7 +147,7 @@ class _zo_window : public _zo_object {
     void connect_drag();
 
     boost::atomic_shared_ptr<_zo_window_manager> manager_;  // its getter takes no lock
-    unsigned links_ = 0;  // how often it was linked; on the loop
+    unsigned links_ = 0;                                    // how often it was linked; on the loop
 
     // Set by init(); the title bar's signals call what these hold.
     std::array<click_handler, zo::title_button_count> title_handlers_;
