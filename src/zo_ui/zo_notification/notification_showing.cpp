@@ -48,6 +48,7 @@ void _zo_notification::_show() {
     shown_at_ = std::time(nullptr);
     gtk_widget_show_all(widgets_.window);
     if (!widgets_.window) return;
+    zo::put_popup(widgets_.window, place_);
     gtk_window_get_size(GTK_WINDOW(widgets_.window), nullptr, &place_.height);
     set_visible(true);
     announce();

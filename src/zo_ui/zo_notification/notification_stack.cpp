@@ -60,7 +60,11 @@ void zo::move_popup(GtkWidget* popup, popup_place& place, int x, int y) {
     const bool there = place.x == x && place.y == y && gtk_widget_get_mapped(popup);
     place.x = x;
     place.y = y;
-    if (!there) gtk_window_move(GTK_WINDOW(popup), x, on_the_server(popup, y));
+    if (!there) put_popup(popup, place);
+}
+
+void zo::put_popup(GtkWidget* popup, const popup_place& place) {
+    gtk_window_move(GTK_WINDOW(popup), place.x, on_the_server(popup, place.y));
 }
 
 int zo::x_of(const popup_stack& stack) { return stack.owner ? zo_ui_screen_width() - manager_x : global_x; }

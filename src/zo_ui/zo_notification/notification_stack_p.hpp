@@ -15,6 +15,10 @@ void note_place(GtkWidget* popup, popup_place* place);
 // Moves a popup that has a record. Where it is on screen already, that costs nothing.
 void move_popup(GtkWidget* popup, popup_place& place, int x, int y);
 
+// Puts a popup that has just come on screen where its record says. A move of a hidden one may get lost when
+// the server's report of an earlier place arrives after it.
+void put_popup(GtkWidget* popup, const popup_place& place);
+
 // The left edge of a stack: a manager's stands at the right of the screen, the process's at the left.
 int x_of(const popup_stack& stack);
 
