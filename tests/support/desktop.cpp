@@ -100,6 +100,19 @@ test::point test::middle_of(GtkWidget* widget) {
     return {(origin_x + x) * scale, (origin_y + y) * scale};
 }
 
+void test::draw_again(GtkWidget* toplevel) {
+    GdkFrameClock* clock = gtk_widget_get_frame_clock(toplevel);
+    // The first frame may have begun before; a layout may ask for one more.
+    for (int frames = 0; frames < 3; ++frames) {
+        bool painted = false;
+        const gulong handler = g_signal_connect_swapped(
+            clock, "after-paint", G_CALLBACK(+[](bool* done) { *done = true; }), &painted);
+        gdk_frame_clock_request_phase(clock, GDK_FRAME_CLOCK_PHASE_PAINT);
+        EXPECT_TRUE(turn_until([&] { return painted; }));
+        g_signal_handler_disconnect(clock, handler);
+    }
+}
+
 void test::click(GtkWidget* widget) {
     const point middle = middle_of(widget);
     click_at(middle.x, middle.y);

@@ -30,6 +30,9 @@ void click(GtkWidget* widget);
 // A real key to whatever has the keyboard focus, by its X name ("Escape", "Down", "a").
 void type_key(const std::string& key);
 
+// Waits until a toplevel on screen has been laid out and drawn anew: what was asked for before is in place.
+void draw_again(GtkWidget* toplevel);
+
 // The id of a widget's X window, for commands.
 std::string x_window(GtkWidget* toplevel);
 

@@ -57,6 +57,7 @@ TEST(ManagerCost, LeavesTheOtherButtonsInPlace) {
         test::settle_desktop();
     };
     with_long_title('m');
+    test::draw_again(test::panel());
     test::middle_of(test::task_button("a"));
     GtkAllocation before{};
     gtk_widget_get_allocation(test::task_button("a"), &before);
@@ -65,7 +66,7 @@ TEST(ManagerCost, LeavesTheOtherButtonsInPlace) {
                              G_CALLBACK(+[](int* count) { ++*count; }), &laid_out);
     with_long_title('w');
     b.run(zo_window_hide);
-    test::settle_desktop();
+    test::draw_again(test::panel());
     GtkAllocation after{};
     gtk_widget_get_allocation(test::task_button("a"), &after);
     EXPECT_EQ(after.x, before.x);
