@@ -5,7 +5,6 @@
 #include <zo_ui/toolkit/process_state_p.hpp>
 #include <zo_ui/toolkit/trampolines_p.hpp>
 
-using zo::listener_list;
 using zo::toolkit;
 using zo::toolkit_state;
 
