@@ -3,7 +3,6 @@
 // announces that on the root window; without one nothing is announced.
 #include <zo_ui/platform/linux.hpp>
 
-#include <X11/Xatom.h>
 #include <X11/Xlib.h>
 #include <clocale>
 #include <iostream>

@@ -15,10 +15,10 @@
 #include <string>
 
 // A new indicator. `name` is its id, different from those of the program's other indicators in more than
-// punctuation; with an empty one it is never shown. `title`
-// is what the desktop calls it, empty for none. `icon` is the name of an icon of the theme, or the absolute
-// path of a picture. The library keeps the indicator alive, beside the caller's handle, until it is
-// destroyed: zo_appindicator_to_object(indicator)->destroy(reason, line). Any thread.
+// punctuation; with an empty one it is never shown. `title` is what the desktop calls it, empty for none.
+// `icon` is the name of an icon of the theme, or the absolute path of a picture. The library keeps the
+// indicator alive, beside the caller's handle, until it is destroyed:
+// zo_appindicator_to_object(indicator)->destroy(reason, line). Any thread.
 ZO_EXPORT zo_appindicator_ptr zo_appindicator_new(std::string name, std::string title, std::string icon);
 
 // Adds an entry to the menu: `name` tells it from the others and gives its place (byte order), `label` is

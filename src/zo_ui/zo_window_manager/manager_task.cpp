@@ -15,15 +15,16 @@ constexpr const char* click_name = "manager-click-cb";
 
 using click_function = std::function<void(GtkWidget*)>;
 
-// Hides a window that is visible, brings one back that is not. The window may be destroyed by it, and this
-// callable with it: nothing captured is touched after the first line.
+// Hides a window that is visible, brings one back that is not. The window may be destroyed by it, and the
+// callable that holds it: the caller gives a handle of its own.
+void toggle(zo_window_ptr&& window) {
+    if (window->is_visible()) return window->_hide();
+    window->_show();
+    window->_activate();
+}
+
 click_function* new_click_handler(const zo_window_ptr& window) {
-    return new click_function([window](GtkWidget*) {
-        const zo_window_ptr self = window;
-        if (self->is_visible()) return self->_hide();
-        self->_show();
-        self->_activate();
-    });
+    return new click_function([window](GtkWidget*) { toggle(zo_window_ptr(window)); });
 }
 
 }  // namespace
