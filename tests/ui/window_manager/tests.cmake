@@ -39,3 +39,12 @@ foreach(direction left_to_right right_to_left)
   zo_test(manager_scrolling_${direction}_test FILES ui/window_manager/manager_scrolling_test.cpp
     LIBRARIES panel_support zo_ui SESSIONS openbox none ARGUMENTS ${direction})
 endforeach()
+
+# On two monitors: one program for each place of the second one.
+foreach(second beside before above)
+  zo_test(manager_monitor_${second}_second_test FILES ui/window_manager/manager_two_monitors_test.cpp
+    LIBRARIES panel_support zo_ui SESSIONS openbox none SESSION_OPTIONS -m ARGUMENTS ${second})
+  target_precompile_headers(manager_monitor_${second}_second_test REUSE_FROM test_precompiled)
+endforeach()
+zo_test(manager_monitor_above_test FILES ui/window_manager/manager_monitor_above_test.cpp
+  LIBRARIES panel_support zo_ui SESSIONS openbox none SESSION_OPTIONS -m)
