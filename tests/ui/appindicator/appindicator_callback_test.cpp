@@ -1,28 +1,11 @@
 // SPDX-License-Identifier: MIT
 // What a callback may do to the indicator that calls it.
+#include "support/lock_probe.hpp"
 #include "ui/appindicator/indicator.hpp"
 
-#include <future>
 #include <thread>
 
 namespace {
-
-// The thread that holds the lock may take it again, so another one has to try.
-bool lock_is_free(const zo_object_ptr& object) {
-    std::promise<void> taken;
-    std::future<void> done = taken.get_future();
-    std::thread other([object, taken = std::move(taken)]() mutable {
-        object->property_lock("another thread", 1);
-        object->property_unlock();
-        taken.set_value();
-    });
-    const bool free = done.wait_for(std::chrono::seconds(10)) == std::future_status::ready;
-    if (free)
-        other.join();
-    else
-        other.detach();
-    return free;
-}
 
 class AppindicatorCallback : public test::with_tray_host {
   protected:
@@ -48,7 +31,7 @@ TEST_F(AppindicatorCallback, RunsOnTheLoopWithoutTheLock) {
     const std::thread::id loop = std::this_thread::get_id();
     click([&](const zo_appindicator_ptr& clicked, std::string&) {
         EXPECT_EQ(std::this_thread::get_id(), loop);
-        EXPECT_TRUE(lock_is_free(zo_appindicator_to_object(clicked)));
+        EXPECT_TRUE(test::lock_is_free(zo_appindicator_to_object(clicked)));
     });
 }
 
@@ -157,7 +140,7 @@ TEST_F(AppindicatorCallback, MayActWhenItIsLetGo) {
             zo_appindicator_add_action(self, "act", "Act", nullptr);
             zo_appindicator_show(self);
             test::run_tasks();
-            EXPECT_TRUE(lock_is_free(zo_appindicator_to_object(self)));
+            EXPECT_TRUE(test::lock_is_free(zo_appindicator_to_object(self)));
         }
     };
     click([words = std::make_shared<last_words>(indicator.get())](const auto&, auto&) {});

@@ -1,28 +1,16 @@
 // SPDX-License-Identifier: MIT
 // Under which file and line each operation is posted, and what its task does: a service in place of the
 // core's only notes. Also the order of the virtual operations.
+#include "support/posted_tasks.hpp"
+#include "support/slot_of.hpp"
 #include "ui/appindicator/indicator.hpp"
 
 #include <zo_ui/zo_appindicator/appindicator_p.hpp>
 
-#include <cstring>
 #include <thread>
 
-namespace {
-
-struct posted {
-    std::function<void()> task;
-    std::string file;
-    int line;
-};
-
-std::vector<posted> posts;
-
-}  // namespace
-
-void zo_system_service_exec(std::function<void()> task, std::string file, int line) {
-    posts.push_back({std::move(task), file, line});
-}
+using test::posted;
+using test::posts;
 
 namespace {
 
@@ -133,14 +121,7 @@ TEST_F(AppindicatorPosts, TheRecordHoldsWhatIsShown) {
     EXPECT_TRUE(test::menus().empty());
 }
 
-// A pointer to a virtual member function begins with its offset in the table (Itanium C++ ABI).
-template <typename Function>
-std::ptrdiff_t slot_of(Function function) {
-    std::ptrdiff_t words[2];
-    static_assert(sizeof function == sizeof words);
-    std::memcpy(words, &function, sizeof words);
-    return (words[0] - 1) / static_cast<std::ptrdiff_t>(sizeof(void*));
-}
+using test::slot_of;
 
 TEST_F(AppindicatorPosts, TheSlotsAreThoseOfTheBase) {
     EXPECT_EQ(slot_of(&_zo_appindicator::to_object), 2);

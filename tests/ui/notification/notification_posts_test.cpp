@@ -1,32 +1,13 @@
 // SPDX-License-Identifier: MIT
 // Under which file and line each operation is posted: a service in place of the core's only notes.
+#include "support/posted_tasks.hpp"
 #include "ui/notification/popup.hpp"
 
 #include <zo_ui/zo_notification/notification_p.hpp>
 #include <zo_ui/zo_window_manager/manager_notification_p.hpp>
 
-namespace {
-
-struct posted {
-    std::function<void()> task;
-    std::string file;
-    int line;
-    unsigned long milliseconds = 0;
-};
-
-std::vector<posted> posts;
-
-}  // namespace
-
-void zo_system_service_exec(std::function<void()> task, std::string file, int line) {
-    posts.push_back({std::move(task), file, line});
-}
-
-unsigned long zo_system_service_timeout(std::function<void()> task, unsigned long milliseconds,
-                                        std::string file, int line) {
-    posts.push_back({std::move(task), file, line, milliseconds});
-    return 77;
-}
+using test::posted;
+using test::posts;
 
 namespace {
 

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 // The three flags, the order of the virtual operations, the reports, and the first values of what has no
 // property.
+#include "support/slot_of.hpp"
 #include "ui/notification/popup.hpp"
 #include "ui/window/lock_witness.hpp"
 
 #include <zo_ui/zo_notification/notification_p.hpp>
 
 #include <algorithm>
-#include <cstring>
 
 namespace {
 
@@ -90,15 +90,7 @@ TEST_F(NotificationTable, AMissingFlagIsReportedWithItsExpression) {
     EXPECT_EQ(lines_of("window-visible", [&] { object._show(); })[0], read("window-visible")[0]);
 }
 
-// A pointer to a virtual member function begins with its offset in the table (Itanium C++ ABI).
-template <typename Function>
-std::ptrdiff_t slot_of(Function function) {
-    std::ptrdiff_t words[2];
-    static_assert(sizeof function == sizeof words);
-    std::memcpy(words, &function, sizeof words);
-    EXPECT_EQ(words[1], 0) << "a slot of the object's own table";
-    return (words[0] - 1) / static_cast<std::ptrdiff_t>(sizeof(void*));
-}
+using test::slot_of;
 
 TEST_F(NotificationTable, TheOrderOfItsOperationsIsThatOfTheBase) {
     EXPECT_EQ(slot_of(&_zo_notification::to_object), 2);

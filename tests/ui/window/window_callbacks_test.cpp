@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The setters of callbacks. When each callback is called is shown elsewhere.
-#include "ui/window/lock_probe.hpp"
+#include "support/lock_probe.hpp"
 #include "ui/window/window_tables.hpp"
 
 #include <memory>

@@ -1,24 +1,12 @@
 // SPDX-License-Identifier: MIT
 // Under which file and line each operation is posted: a service in place of the core's only notes.
+#include "support/posted_tasks.hpp"
 #include "ui/window/window_tables.hpp"
 
 #include <zo_ui/zo_window/window_p.hpp>
 
-namespace {
-
-struct posted {
-    std::function<void()> task;
-    std::string file;
-    int line;
-};
-
-std::vector<posted> posts;
-
-}  // namespace
-
-void zo_system_service_exec(std::function<void()> task, std::string file, int line) {
-    posts.push_back({std::move(task), file, line});
-}
+using test::posted;
+using test::posts;
 
 namespace {
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Whatever a callback does to its own window, at once in a nested loop: afterwards flags, widgets and the
 // manager's picture agree, and the window can go.
-#include "ui/window/lock_probe.hpp"
+#include "support/lock_probe.hpp"
 #include "ui/window/recording_manager.hpp"
 #include "ui/window/window_tables.hpp"
 

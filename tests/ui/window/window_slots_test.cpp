@@ -1,22 +1,15 @@
 // SPDX-License-Identifier: MIT
 // The order of the virtual operations, which programs were built against, and that they are what tasks run.
+#include "support/slot_of.hpp"
 #include "support/ui.hpp"
 
 #include <zo_ui/zo_window/window_p.hpp>
 
 #include <boost/make_shared.hpp>
-#include <cstring>
 
 namespace {
 
-// A pointer to a virtual member function begins with its offset in the table (Itanium C++ ABI).
-template <typename Function>
-std::ptrdiff_t slot_of(Function function) {
-    std::ptrdiff_t words[2];
-    static_assert(sizeof function == sizeof words);
-    std::memcpy(words, &function, sizeof words);
-    return words[0] / static_cast<std::ptrdiff_t>(sizeof(void*));
-}
+using test::slot_of;
 
 TEST(WindowSlots, FollowThoseOfTheBase) {
     // The destructor has the first two.

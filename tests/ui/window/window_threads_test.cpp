@@ -1,33 +1,13 @@
 // SPDX-License-Identifier: MIT
 // Eight threads call everything that any thread may call, on one window and on windows of their own, while
 // the loop runs. The thread sanitizer watches.
+#include "support/threads.hpp"
 #include "ui/window/window_tables.hpp"
-
-#include <atomic>
-#include <thread>
 
 namespace {
 
-constexpr int threads_count = 8;
-
-// Runs `work(thread, turn)` on all threads while this one turns the loop, and `meanwhile` in each turn.
-void on_all_threads(
-    int turns, const std::function<void(int, int)>& work, const std::function<void()>& meanwhile = [] {}) {
-    std::atomic<int> left{threads_count};
-    std::vector<std::thread> threads;
-    for (int thread = 0; thread < threads_count; ++thread)
-        threads.emplace_back([&, thread] {
-            for (int turn = 0; turn < turns; ++turn) work(thread, turn);
-            --left;
-        });
-    const auto done = [&] {
-        meanwhile();
-        return left == 0;
-    };
-    EXPECT_TRUE(test::turn_until(done, std::chrono::seconds(240)));
-    for (std::thread& thread : threads) thread.join();
-    test::run_tasks();
-}
+using test::on_all_threads;
+using test::threads_count;
 
 void call_accessors(const zo_window_ptr& window, int number) {
     for (const test::window_flag& flag : test::window_flags) {

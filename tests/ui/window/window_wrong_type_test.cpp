@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // A property that holds another type is a programming error: the exception leaves the call, and the lock is
 // free again.
-#include "ui/window/lock_probe.hpp"
+#include "support/lock_probe.hpp"
 #include "ui/window/property_steps.hpp"
 #include "ui/window/window_tables.hpp"
 

@@ -1,35 +1,16 @@
 // SPDX-License-Identifier: MIT
 // Whoever the panel calls may use every function: no property lock is held meanwhile.
+#include "support/lock_probe.hpp"
 #include "ui/window_manager/panel.hpp"
 
-#include <future>
-#include <thread>
-
 namespace {
-
-// Can another thread take the lock? The one that holds it may take it again.
-bool is_free(const zo_object_ptr& object) {
-    const auto taken = std::make_shared<std::promise<void>>();
-    std::future<void> done = taken->get_future();
-    std::thread other([object, taken] {
-        object->property_lock("another thread", 1);
-        object->property_unlock();
-        taken->set_value();
-    });
-    const bool free = done.wait_for(std::chrono::seconds(10)) == std::future_status::ready;
-    if (free)
-        other.join();
-    else
-        other.detach();
-    return free;
-}
 
 class ManagerLocks : public testing::Test {
   protected:
     void expect_free() {
         ++asked;
-        EXPECT_TRUE(is_free(zo_window_manager_to_object(panel)));
-        EXPECT_TRUE(is_free(zo_window_to_object(a)));
+        EXPECT_TRUE(test::lock_is_free(zo_window_manager_to_object(panel)));
+        EXPECT_TRUE(test::lock_is_free(a));
     }
 
     // Asks while GTK emits the signal.

@@ -1,22 +1,13 @@
 // SPDX-License-Identifier: MIT
 // The order of the virtual operations, which programs were built against.
+#include "support/slot_of.hpp"
 #include "support/ui.hpp"
 
 #include <zo_ui/zo_window_manager/manager_p.hpp>
 
-#include <cstring>
-
 namespace {
 
-// A pointer to a virtual member function begins with its offset in the table (Itanium C++ ABI).
-template <typename Function>
-std::ptrdiff_t slot_of(Function function) {
-    std::ptrdiff_t words[2];
-    static_assert(sizeof function == sizeof words);
-    std::memcpy(words, &function, sizeof words);
-    EXPECT_EQ(words[1], 0) << "a slot of the object's own table";
-    return (words[0] - 1) / static_cast<std::ptrdiff_t>(sizeof(void*));
-}
+using test::slot_of;
 
 TEST(ManagerSlotOrder, FollowsThatOfTheBase) {
     // The destructor has the first two.

@@ -9,12 +9,12 @@
 
 namespace test {
 
-// Can somebody else take the window's property lock? The thread that holds it may take it again, so another
+// Can somebody else take the object's property lock? The thread that holds it may take it again, so another
 // one has to try.
-inline bool lock_is_free(const zo_window_ptr& window) {
+inline bool lock_is_free(const zo_object_ptr& object) {
     const auto taken = std::make_shared<std::promise<void>>();
     std::future<void> done = taken->get_future();
-    std::thread other([object = zo_window_to_object(window), taken] {
+    std::thread other([object, taken] {
         object->property_lock("another thread", 1);
         object->property_unlock();
         taken->set_value();
@@ -26,5 +26,7 @@ inline bool lock_is_free(const zo_window_ptr& window) {
         other.detach();
     return free;
 }
+
+inline bool lock_is_free(const zo_window_ptr& window) { return lock_is_free(zo_window_to_object(window)); }
 
 }  // namespace test
