@@ -11,9 +11,14 @@ zo_ui_inner_test(notification/notification_table_test notification/notification_
 zo_test(notification_accessibility_test FILES ui/notification/notification_accessibility_test.cpp
   LIBRARIES ui_support zo_ui SESSIONS openbox)
 zo_test(notification_displayless_test FILES ui/notification/notification_displayless_test.cpp LIBRARIES zo_ui)
+# One program, at scale 2 and with text from right to left.
+foreach(kind scaled right_to_left)
+  zo_test(notification_places_${kind}_test FILES ui/notification/notification_places_test.cpp
+    LIBRARIES popup_support zo_ui SESSIONS openbox none ARGUMENTS ${kind})
+  target_precompile_headers(notification_places_${kind}_test REUSE_FROM test_precompiled)
+endforeach()
 foreach(name null_handles tree content stack manager close link many service_end table timeout requests posts
-    order
-    accessibility)
+    order accessibility)
   target_link_libraries(notification_${name}_test PRIVATE popup_support)
 endforeach()
 foreach(name manager many timeout order)
