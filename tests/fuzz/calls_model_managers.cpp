@@ -1,0 +1,135 @@
+// SPDX-License-Identifier: MIT
+#include "fuzz/calls_model.hpp"
+
+#include <algorithm>
+#include <utility>
+
+using fuzz::model;
+
+namespace {
+
+bool has(const std::vector<int>& list, int w) { return std::find(list.begin(), list.end(), w) != list.end(); }
+void drop(std::vector<int>& list, int w) { list.erase(std::remove(list.begin(), list.end(), w), list.end()); }
+
+}  // namespace
+
+bool model::make_manager_call(const call& made) {
+    const int m = made.who;
+    const auto later = [&](void (model::*task)(int)) { post([=, this] { (this->*task)(m); }); };
+    switch (made.what) {
+        case verb::manager_open:
+            later(&model::manager_open);
+            break;
+        case verb::manager_show:
+            later(&model::manager_show);
+            break;
+        case verb::manager_hide:
+            later(&model::manager_hide);
+            break;
+        case verb::manager_close:
+            later(&model::manager_close);
+            break;
+        case verb::manager_destroy:
+            later(&model::manager_destroy);
+            break;
+        case verb::manager_destroy_for:
+            if (!std::exchange(managers_[m].end_asked, true)) later(&model::manager_destroy);
+            break;
+        default:
+            post([] {});
+            break;  // sliding and the lock move nothing that the story tells
+    }
+    return true;
+}
+
+void model::manager_open(int m) {
+    manager& it = managers_[m];
+    if (it.opened || it.destroyed || it.visible) return;
+    it.opened = true;
+    for (const int w : std::vector(it.shown)) give_task(w);
+    if (!it.silent) tell(kind::manager, m, event::open);
+}
+
+void model::manager_show(int m) {
+    manager& it = managers_[m];
+    if (!it.opened || it.destroyed || it.visible) return;
+    it.visible = true;
+    for (const int w : std::vector(it.shown)) post([=, this] { restore(w); });
+    for (const int n : std::set(it.listed)) post([=, this] { notification_show(n); });
+    if (!it.silent) tell(kind::manager, m, event::show);
+}
+
+void model::manager_hide(int m) {
+    manager& it = managers_[m];
+    if (!it.opened || it.destroyed || !it.visible) return;
+    it.visible = false;
+    for (const int w : std::vector(it.shown)) post([=, this] { hide(w); });
+    for (const int n : std::set(it.listed)) post([=, this] { notification_hide(n); });
+    if (!it.silent) tell(kind::manager, m, event::hide);
+}
+
+void model::manager_close(int m) {
+    manager& it = managers_[m];
+    if (!it.opened || it.destroyed) return;
+    for (const int w : std::vector(it.shown)) {
+        post([=, this] { hide(w); });
+        windows_[w].task = false;
+    }
+    for (const int n : std::exchange(it.listed, {})) post([=, this] { notification_close(n); });
+    it.opened = it.visible = false;
+    if (!it.silent) tell(kind::manager, m, event::close);
+}
+
+void model::manager_destroy(int m) {
+    manager& it = managers_[m];
+    if (it.destroyed || it.destroying) return;
+    it.destroying = true;
+    const bool told = !std::exchange(it.silent, true);
+    for (const int w : std::vector(it.registered)) {
+        post_join(w, -1);
+        post_end(w);
+    }
+    it.destroyed = true;
+    for (const int n : std::set(it.listed)) post([=, this] { notification_show(n); });
+    if (told) tell(kind::manager, m, event::destroy);
+}
+
+void model::connect(int m, int w) {
+    manager& it = managers_[m];
+    if (it.destroyed || it.destroying || windows_[w].destroyed || has(it.registered, w)) return;
+    it.registered.push_back(w);
+    if (windows_[w].opened) window_opened(m, w);
+}
+
+void model::disconnect(int m, int w) {
+    manager& it = managers_[m];
+    if (!has(it.registered, w)) return;
+    drop(it.registered, w);
+    drop(it.shown, w);
+    windows_[w].task = false;
+}
+
+void model::window_opened(int m, int w) {
+    manager& it = managers_[m];
+    if (!has(it.registered, w)) return;
+    drop(it.shown, w);
+    it.shown.push_back(w);
+    if (it.opened) give_task(w);
+}
+
+// A window of a panel that is closed goes out of sight, and comes back with the panel.
+void model::window_shown(int m, int w) {
+    if (!has(managers_[m].shown, w) || managers_[m].opened) return;
+    windows_[w].restore_visible = windows_[w].visible;
+    hide(w);
+}
+
+void model::window_closed(int m, int w) {
+    if (!has(managers_[m].shown, w)) return;
+    drop(managers_[m].shown, w);
+    windows_[w].task = false;
+}
+
+void model::give_task(int w) {
+    if (!windows_[w].popup) windows_[w].task = true;
+}

@@ -1,0 +1,192 @@
+// SPDX-License-Identifier: MIT
+#include "fuzz/calls_model.hpp"
+
+#include <utility>
+
+using fuzz::model;
+
+bool model::make_window_call(const call& made) {
+    const int w = made.who;
+    const auto later = [&](void (model::*task)(int)) { post([=, this] { (this->*task)(w); }); };
+    window& it = windows_[w];
+    switch (made.what) {
+        case verb::open:
+            later(&model::open);
+            break;
+        case verb::show:
+            later(&model::show);
+            break;
+        case verb::hide:
+            later(&model::hide);
+            break;
+        case verb::activate:
+            later(&model::activate);
+            break;
+        case verb::restore:
+            later(&model::restore);
+            break;
+        case verb::close:
+            later(&model::close);
+            break;
+        case verb::destroy:
+            later(&model::destroy);
+            break;
+        case verb::destroy_for:
+            post_end(w);
+            break;
+        case verb::move:
+            post([] {});
+            break;
+        case verb::save:
+            it.restore_visible = it.visible;
+            break;
+        case verb::set_popup:
+            it.popup = made.with % 2;
+            break;
+        case verb::push_event:
+            post([=, this] {
+                if (!windows_[w].silent) tell(kind::window, w, event::pushed);
+            });
+            break;
+        case verb::set_title: {
+            const int old = std::exchange(it.title, made.with);
+            post([=, this, now = made.with] { change_title(w, old, now); });
+            break;
+        }
+        case verb::join:
+            post_join(w, made.with % managers_count);
+            break;
+        case verb::leave:
+            post_join(w, -1);
+            break;
+        default:
+            return press_window(made);
+    }
+    return true;
+}
+
+bool model::press_window(const call& made) {
+    const int w = made.who;
+    window& it = windows_[w];
+    switch (made.what) {
+        case verb::click_close:
+            if (!it.titled) return false;
+            request_close(w);
+            return true;
+        case verb::click_minimize:
+            if (!it.titled) return false;
+            hide(w);
+            return true;
+        case verb::ask_to_close:
+            if (!it.tree) return false;
+            request_close(w);
+            return true;
+        case verb::destroy_toplevel:
+            if (!it.tree) return false;
+            close(w);
+            return true;
+        case verb::click_task:
+            if (!it.task) return false;
+            if (it.visible) {
+                hide(w);
+            } else {
+                show(w);
+                activate(w);
+            }
+            return true;
+        default:  // click_task_close
+            if (it.task) post([=, this] { close(w); });
+            return it.task;
+    }
+}
+
+void model::open(int w) {
+    window& it = windows_[w];
+    if (it.opened || it.destroyed || it.destroying || it.tree) return;
+    it.opened = true;
+    it.titled = !it.popup;
+    const int tree = it.tree = ++trees_;
+    tell(kind::window, w, event::open);
+    if (still(w, tree) && it.manager >= 0) window_opened(it.manager, w);
+}
+
+void model::show(int w) {
+    window& it = windows_[w];
+    if (!it.opened || it.destroyed || it.visible) return;
+    it.visible = true;
+    const int tree = it.tree;
+    tell(kind::window, w, event::show);
+    if (still(w, tree) && it.visible && it.manager >= 0) window_shown(it.manager, w);
+}
+
+void model::hide(int w) {
+    window& it = windows_[w];
+    if (!it.opened || it.destroyed || !it.visible) return;
+    it.visible = false;
+    tell(kind::window, w, event::hide);
+}
+
+void model::activate(int w) {
+    const window& it = windows_[w];
+    if (it.opened && !it.destroyed && it.visible) tell(kind::window, w, event::activate);
+}
+
+void model::restore(int w) {
+    const window& it = windows_[w];
+    if (!it.opened || it.destroyed || !it.restore_visible || it.visible) return;
+    show(w);
+    if (it.visible) tell(kind::window, w, event::restore);
+}
+
+void model::close(int w) {
+    window& it = windows_[w];
+    if (!it.opened || it.destroyed) return;
+    ++it.instance;
+    it.opened = it.visible = it.titled = false;
+    it.tree = 0;
+    // The callback of closing is the last one that a window loses.
+    tell(kind::window, w, event::close);
+    if (!it.opened && it.manager >= 0) window_closed(it.manager, w);
+}
+
+void model::destroy(int w) {
+    window& it = windows_[w];
+    if (it.destroyed || it.destroying) return;
+    it.destroying = true;
+    ++it.instance;
+    const bool told = !std::exchange(it.silent, true);
+    close(w);
+    it.destroyed = true;
+    if (told) tell(kind::window, w, event::destroy);
+    if (it.manager >= 0) disconnect(it.manager, w);
+    it.manager = -1;
+    it.destroying = false;
+}
+
+void model::request_close(int w) {
+    const int tree = windows_[w].tree;
+    const bool vetoed = !windows_[w].silent && tell(kind::window, w, event::close_request);
+    if (!vetoed && still(w, tree)) close(w);
+}
+
+void model::change_title(int w, int old, int now) {
+    if (old != now && !windows_[w].silent) tell(kind::window, w, event::title_change);
+}
+
+void model::post_end(int w) {
+    if (!std::exchange(windows_[w].end_asked, true)) post([=, this] { destroy(w); });
+}
+
+void model::post_join(int w, int m) {
+    if (!windows_[w].destroyed) post([=, this] { join(w, m); });
+}
+
+void model::join(int w, int m) {
+    window& it = windows_[w];
+    if (it.destroyed || it.manager == m) return;
+    const int link = ++it.links;
+    if (it.manager >= 0) disconnect(it.manager, w);
+    if (it.destroyed || it.links != link) return;
+    it.manager = m;
+    if (m >= 0) connect(m, w);
+}

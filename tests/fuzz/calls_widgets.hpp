@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: MIT
+// Widgets of the library found from outside.
+#pragma once
+
+#include <gtk/gtk.h>
+
+#include <string>
+#include <vector>
+
+namespace fuzz {
+
+// Toplevels and popups with a style class, without those that are on their way out.
+std::vector<GtkWidget*> toplevels(const std::string& style_class);
+
+// Depth first; null when there is none.
+GtkWidget* find_class(GtkWidget* root, const std::string& style_class);
+GtkWidget* find_button(GtkWidget* root, const std::string& name);
+
+struct task_buttons {
+    GtkWidget* task = nullptr;
+    GtkWidget* close = nullptr;  // the next one in the row
+};
+task_buttons find_task(const std::string& window_id);
+
+}  // namespace fuzz

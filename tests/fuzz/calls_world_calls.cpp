@@ -1,0 +1,141 @@
+// SPDX-License-Identifier: MIT
+#include "fuzz/calls_widgets.hpp"
+#include "fuzz/calls_world.hpp"
+
+using fuzz::world;
+
+namespace {
+
+bool press(GtkWidget* button) {
+    if (button) gtk_button_clicked(GTK_BUTTON(button));
+    return button;
+}
+
+bool end(GtkWidget* widget) {
+    if (widget) gtk_widget_destroy(widget);
+    return widget;
+}
+
+// What GDK makes of a WM_DELETE_WINDOW.
+bool ask_to_close(GtkWidget* toplevel) {
+    if (!toplevel) return false;
+    gtk_widget_realize(toplevel);
+    GdkEvent* event = gdk_event_new(GDK_DELETE);
+    event->any.window = GDK_WINDOW(g_object_ref(gtk_widget_get_window(toplevel)));
+    gtk_main_do_event(event);
+    gdk_event_free(event);
+    return true;
+}
+
+}  // namespace
+
+bool world::make(const call& made) {
+    if (made.what == verb::run) {
+        while (g_main_context_pending(nullptr)) g_main_context_iteration(nullptr, FALSE);
+        return true;
+    }
+    if (made.what < verb::manager_open) return make_window_call(made);
+    if (made.what < verb::notification_show) return make_manager_call(made);
+    return make_notification_call(made);
+}
+
+bool world::make_window_call(const call& made) {
+    const zo_window_ptr window = windows_[made.who];
+    switch (made.what) {
+        case verb::open:
+            return zo_window_open(window);
+        case verb::show:
+            return zo_window_show(window);
+        case verb::hide:
+            return zo_window_hide(window);
+        case verb::activate:
+            return zo_window_activate(window);
+        case verb::restore:
+            return zo_window_restore(window);
+        case verb::save:
+            return zo_window_save(window);
+        case verb::move:
+            return zo_window_move(window, made.with * 7, made.with * 5);
+        case verb::close:
+            return zo_window_close(window);
+        case verb::destroy:
+            return zo_window_destroy(window);
+        case verb::destroy_for:
+            return zo_window_destroy(window, "fuzz", made.with);
+        case verb::push_event:
+            return zo_window_push_event(window, zo_window_event_new(made.with));
+        case verb::set_title:
+            return zo_window_set_title(window, made.with ? std::to_string(made.with) : "");
+        case verb::set_popup:
+            return zo_window_set_popup_window(window, made.with % 2);
+        case verb::join:
+            return zo_window_set_window_manager(window, managers_[made.with % managers_count]);
+        case verb::leave:
+            return zo_window_set_window_manager(window, {});
+        default:
+            return press_window(made);
+    }
+}
+
+bool world::press_window(const call& made) {
+    GtkWidget* const window = toplevel(made.who);
+    switch (made.what) {
+        case verb::click_close:
+            return window && press(find_class(window, "title-close"));
+        case verb::click_minimize:
+            return window && press(find_class(window, "title-minimize"));
+        case verb::ask_to_close:
+            return ask_to_close(window);
+        case verb::destroy_toplevel:
+            return end(window);
+        default:
+            break;
+    }
+    const task_buttons found = find_task("fuzz-window-" + std::to_string(made.who));
+    return press(made.what == verb::click_task ? found.task : found.close);
+}
+
+bool world::make_manager_call(const call& made) {
+    const zo_window_manager_ptr manager = managers_[made.who];
+    switch (made.what) {
+        case verb::manager_open:
+            return zo_window_manager_open(manager);
+        case verb::manager_show:
+            return zo_window_manager_show(manager);
+        case verb::manager_hide:
+            return zo_window_manager_hide(manager);
+        case verb::manager_close:
+            return zo_window_manager_close(manager);
+        case verb::manager_destroy:
+            return zo_window_manager_destroy(manager);
+        case verb::manager_destroy_for:
+            return zo_window_manager_destroy(manager, "fuzz", made.with);
+        case verb::manager_extend:
+            return zo_window_manager_extend(manager);
+        case verb::manager_retract:
+            return zo_window_manager_retract(manager);
+        default:
+            return zo_window_manager_set_keep_extended(manager, made.with % 2);
+    }
+}
+
+bool world::make_notification_call(const call& made) {
+    const zo_notification_ptr notification = notifications_[made.who];
+    switch (made.what) {
+        case verb::notification_show:
+            return zo_notification_open_show(notification);
+        case verb::notification_destroy:
+            return zo_notification_destroy(notification);
+        case verb::notification_manager: {
+            const int m = made.with % (managers_count + 1) - 1;
+            return zo_notification_set_manager(notification, m < 0 ? zo_window_manager_ptr() : managers_[m]);
+        }
+        default:
+            break;
+    }
+    GtkWidget* const found = popup(made.who);
+    if (made.what == verb::notification_destroy_popup) return end(found);
+    if (!found) return false;
+    return press(made.what == verb::notification_click_action ? find_button(found, "act")
+                                                              : find_class(found, "title-close"));
+}
