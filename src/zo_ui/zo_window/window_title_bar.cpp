@@ -50,7 +50,7 @@ void _zo_window::build_title_bar(const zo::window_settings& settings) {
 }
 
 void _zo_window::pack_title_label(const char* style_class, const std::string& title) {
-    widgets_.title_label = gtk_label_new(title.c_str());
+    widgets_.title_label = gtk_label_new(zo::readable(title).c_str());
     zo::add_class(widgets_.title_label, style_class);
     gtk_box_set_center_widget(GTK_BOX(widgets_.title_box), widgets_.title_label);
 }

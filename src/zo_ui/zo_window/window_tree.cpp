@@ -79,7 +79,7 @@ void _zo_window::build_toplevel(const zo::window_settings& settings) {
     apply_fixed_classes();
     zo::add_class(widgets_.window, settings.style_class.c_str());
     if (!settings.id.empty()) gtk_widget_set_name(widgets_.window, settings.id.c_str());
-    if (!settings.title.empty()) gtk_window_set_title(window, settings.title.c_str());
+    if (!settings.title.empty()) gtk_window_set_title(window, zo::readable(settings.title).c_str());
     gtk_window_set_decorated(window, settings.use_system_decoration);
     gtk_window_set_resizable(window, settings.resizable);
     if (!settings.keep_above) return;

@@ -33,7 +33,8 @@ task_text text_of(const zo_window_ptr& window) {
 }
 
 // GTK makes a new label for each text.
-void set_title(GtkWidget* button, const std::string& title) {
+void set_title(GtkWidget* button, const std::string& text) {
+    const std::string title = zo::readable(text);
     gtk_button_set_label(GTK_BUTTON(button), title.c_str());
     if (GtkWidget* label = gtk_bin_get_child(GTK_BIN(button)); GTK_IS_LABEL(label)) {
         gtk_label_set_ellipsize(GTK_LABEL(label), PANGO_ELLIPSIZE_END);

@@ -43,6 +43,25 @@ TEST(WindowTitleText, IsShownAsItIs) {
     EXPECT_STREQ(label_of(test::toplevel_named("w")), "&amp; <");
 }
 
+// The toolkit refuses such a text altogether. The property keeps it as it was given.
+TEST(WindowTitleText, ThatIsNotUtf8IsShownAsFarAsItCanBeRead) {
+    test::scoped_window window("w");
+    zo_window_set_title(window, "caf\xe9");
+    GtkWidget* toplevel = window.show();
+    EXPECT_STREQ(label_of(toplevel), "caf\xef\xbf\xbd");
+    EXPECT_STREQ(gtk_window_get_title(GTK_WINDOW(toplevel)), "caf\xef\xbf\xbd");
+    zo_window_set_title(window,
+                        "\xfft\xea"
+                        "te");
+    test::run_tasks();
+    EXPECT_STREQ(label_of(toplevel), "\xef\xbf\xbdt\xef\xbf\xbdte");
+    std::string title;
+    EXPECT_TRUE(zo_window_get_title(window, title));
+    EXPECT_EQ(title,
+              "\xfft\xea"
+              "te");
+}
+
 TEST(WindowTitleText, OfAWindowWithoutATitleBarChangesNothing) {
     test::scoped_window window("w");
     zo_window_set_use_built_in_title(window, false);

@@ -59,6 +59,16 @@ TEST_F(ManagerTaskTitles, AreNoMarkup) {
 }
 
 // Past a width it grows no more.
+TEST_F(ManagerTaskTitles, AreShownAsFarAsTheyCanBeRead) {
+    panel.show();
+    test::joined_window a(panel, "a");
+    set_title(a, "caf\xe9");
+    a.open();
+    EXPECT_EQ(label_of("a"), "caf\xef\xbf\xbd");
+    set_title(a, "\xe9t\xe9");
+    EXPECT_EQ(label_of("a"), "\xef\xbf\xbdt\xef\xbf\xbd");
+}
+
 TEST_F(ManagerTaskTitles, HaveAWidestButton) {
     panel.show();
     test::joined_window a(panel, "a");
