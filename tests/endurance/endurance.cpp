@@ -48,6 +48,7 @@ unsigned long x_resources() {
     XResQueryClientResources(display, GDK_WINDOW_XID(own), &count, &types);
     unsigned long sum = 0;
     for (int i = 0; i < count; ++i) sum += types[i].count;
+    if (types) XFree(types);
     return sum;
 }
 
