@@ -1,0 +1,123 @@
+// SPDX-License-Identifier: MIT
+// An application that uses everything the library has and does as it is told on its standard input, while
+// faults happen around it. Each command is answered by a line on its standard output.
+#include <zo_ui/zo_ui.hpp>
+
+#include <cstdio>
+#include <iostream>
+#include <map>
+#include <sstream>
+#include <string>
+
+namespace {
+
+zo_window_ptr window;
+zo_window_manager_ptr manager;
+zo_appindicator_ptr indicator;
+int notifications_closed = 0;
+
+void answer(const std::string& text) { std::cout << "> " << text << std::endl; }
+
+void build() {
+    manager = zo_window_manager_new("");
+    zo_window_manager_open(manager);
+    zo_window_manager_show(manager);
+    window = zo_window_new("fault");
+    zo_window_set_title(window, "Fault");
+    zo_window_set_window_manager(window, manager);
+    zo_window_open(window);
+    zo_window_show(window);
+    indicator = zo_appindicator_new("fault", "Fault", "help-about");
+    zo_appindicator_add_action(indicator, "act", "Act",
+                               [](const zo_appindicator_ptr&, const std::string&) {});
+    zo_appindicator_show(indicator);
+}
+
+void take_down() {
+    zo_appindicator_to_object(indicator)->destroy("application", 1);
+    zo_window_destroy(window);
+    zo_window_manager_close(manager);
+    zo_window_manager_destroy(manager);
+}
+
+// Everything once: what is broken around it breaks nothing here.
+void use() {
+    const zo_notification_ptr notification = zo_notification_new();
+    zo_notification_set_title(notification, "Fault");
+    zo_notification_on_close(notification, [](const zo_notification_ptr&) { ++notifications_closed; });
+    zo_notification_open_show(notification);
+    zo_notification_destroy(notification);
+    zo_window_hide(window);
+    zo_window_show(window);
+    zo_window_manager_extend(manager);
+    zo_window_manager_retract(manager);
+}
+
+void tell_state() {
+    bool opened = false;
+    bool visible = false;
+    zo_window_is_opened(window, &opened);
+    zo_window_is_visible(window, &visible);
+    answer(std::string("window ") + (opened && visible ? "on screen" : "gone") +
+           ", notifications closed: " + std::to_string(notifications_closed));
+}
+
+void use_theme(std::istream& words) {
+    std::string path, name;
+    words >> path >> name;
+    zo_theme_set_theme_path(path);
+    GError* error = nullptr;
+    zo_theme_use_theme(name, error);
+    answer(error ? std::string("refused: ") + error->message : "loaded");
+    g_clear_error(&error);
+}
+
+void translate(std::istream& words) {
+    std::string key;
+    words >> key;
+    answer(zo_lang_get_string(key));
+}
+
+void obey(const std::string& line) {
+    std::istringstream words(line);
+    std::string command;
+    words >> command;
+    if (command == "use") return use();
+    if (command == "state") {
+        // After what was posted before.
+        return zo_system_service_exec(tell_state, "application", 1);
+    }
+    if (command == "theme") return use_theme(words);
+    if (command == "translate") return translate(words);
+    if (command == "quit") gtk_main_quit();
+}
+
+gboolean on_input(GIOChannel* channel, GIOCondition condition, gpointer) {
+    char* line = nullptr;
+    if (!(condition & G_IO_IN) ||
+        g_io_channel_read_line(channel, &line, nullptr, nullptr, nullptr) != G_IO_STATUS_NORMAL) {
+        gtk_main_quit();
+        return G_SOURCE_REMOVE;
+    }
+    obey(line);
+    g_free(line);
+    return G_SOURCE_CONTINUE;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    gtk_init(&argc, &argv);
+    zo_ui_init();
+    const bool bare = argc > 1;
+    if (!bare) build();
+    GIOChannel* input = g_io_channel_unix_new(0);
+    g_io_add_watch(input, static_cast<GIOCondition>(G_IO_IN | G_IO_HUP), on_input, nullptr);
+    g_io_channel_unref(input);
+    zo_system_service_exec([] { answer("ready"); }, "application", 1);
+    gtk_main();
+    if (!bare) take_down();
+    while (gtk_events_pending()) gtk_main_iteration();
+    answer("ended");
+    return 0;
+}

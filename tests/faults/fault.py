@@ -1,0 +1,72 @@
+# SPDX-License-Identifier: MIT
+"""What every fault needs: the application, told what to do line by line, and a row for the table."""
+import os
+import subprocess
+import sys
+import threading
+import queue
+
+ANSWER_SECONDS = 30
+
+
+class Application:
+    def __init__(self, environment=None, directory=None, arguments=()):
+        # The faults end processes and break what they share: leaks at such an end say nothing.
+        env = dict(os.environ, **(environment or {}))
+        env["ASAN_OPTIONS"] = "detect_leaks=0"
+        for name, value in list(env.items()):
+            if value is None:
+                del env[name]
+        self.process = subprocess.Popen([sys.argv[1], *arguments], stdin=subprocess.PIPE, stdout=subprocess.PIPE,
+                                        stderr=subprocess.PIPE, text=True, env=env, cwd=directory)
+        self.lines = queue.Queue()
+        self.complaints = []
+        threading.Thread(target=self._read, daemon=True).start()
+        threading.Thread(target=self._read_complaints, daemon=True).start()
+        self.expect("ready")
+
+    def _read(self):
+        for line in self.process.stdout:
+            if line.startswith("> "):
+                self.lines.put(line[2:].rstrip("\n"))
+
+    def _read_complaints(self):
+        for line in self.process.stderr:
+            self.complaints.append(line.rstrip("\n"))
+
+    def tell(self, command):
+        self.process.stdin.write(command + "\n")
+        self.process.stdin.flush()
+
+    def answer(self):
+        return self.lines.get(timeout=ANSWER_SECONDS)
+
+    def ask(self, command):
+        self.tell(command)
+        return self.answer()
+
+    def expect(self, text):
+        got = self.answer()
+        assert got == text, f"{got!r} instead of {text!r}; it said {self.complaints}"
+
+    def expect_alive(self, closed):
+        """Uses everything once and looks at the state afterwards."""
+        self.tell("use")
+        got = self.ask("state")
+        assert got == f"window on screen, notifications closed: {closed}", (got, self.complaints)
+
+    def end(self):
+        self.tell("quit")
+        self.expect("ended")
+        code = self.process.wait(timeout=ANSWER_SECONDS)
+        assert code == 0, (code, self.complaints)
+
+
+def without_warnings(application, *allowed):
+    bad = [line for line in application.complaints
+           if ("WARNING" in line or "CRITICAL" in line or "ERROR" in line) and not any(a in line for a in allowed)]
+    assert not bad, bad
+
+
+def row(fault, outcome):
+    print(f"| {fault} | {outcome} |", flush=True)
