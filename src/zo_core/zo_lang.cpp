@@ -3,6 +3,8 @@
 // catalogue.
 #include <zo_core/zo_lang.hpp>
 
+#include <zo_core/zo_catalogue_p.hpp>
+
 #include <dlfcn.h>
 #include <glib.h>
 #include <libintl.h>
@@ -55,8 +57,10 @@ std::string locale_directory() {
     return ZO_LOCALEDIR;
 }
 
+// With a damaged catalogue the texts are English: gettext finds none where there is none.
 void bind_domain() {
-    bindtextdomain(domain, locale_directory().c_str());
+    const std::string folder = locale_directory();
+    bindtextdomain(domain, zo::are_catalogues_sound(folder, domain) ? folder.c_str() : "/nonexistent");
     bind_textdomain_codeset(domain, "UTF-8");
 }
 
@@ -66,8 +70,10 @@ std::string zo_lang_get_string(std::string key) {
     static std::once_flag bound;
     std::call_once(bound, bind_domain);
     if (key.empty()) return key;  // gettext answers "" with the catalogue's head
+    // What a damaged catalogue answers is empty, or no text at all.
     const char* translated = g_dgettext(domain, key.c_str());
-    if (translated != key.c_str()) return translated;
+    if (translated != key.c_str() && *translated && g_utf8_validate(translated, -1, nullptr))
+        return translated;
     for (const english_text& entry : english)
         if (entry.key == key) return std::string(entry.text);
     return key;

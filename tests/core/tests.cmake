@@ -12,6 +12,9 @@ zo_test(core_property_lock_test FILES core/property_lock_test.cpp)
 zo_test(core_diagnostics_test FILES core/diagnostics_test.cpp core/child_process.cpp)
 zo_test(core_lang_test FILES core/lang_test.cpp core/child_process.cpp)
 add_dependencies(core_lang_test zo_catalogues)
+zo_test(core_catalogue_test
+  FILES core/catalogue_test.cpp ${PROJECT_SOURCE_DIR}/src/zo_core/zo_catalogue.cpp LIBRARIES PkgConfig::GLIB)
+add_dependencies(core_catalogue_test zo_catalogues)
 
 zo_test(core_service_order_test FILES core/service_order_test.cpp core/sleeping_loop.cpp)
 zo_test(core_service_captures_test FILES core/service_captures_test.cpp)
