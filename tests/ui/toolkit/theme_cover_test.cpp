@@ -108,6 +108,27 @@ TEST(ThemeCover, LoadsWithoutAnError) {
     zo_theme_uninit();
 }
 
+TEST(ThemeCover, EachVariantLoadsWithColoursOfItsOwn) {
+    zo_theme_set_theme_path(source().string() + "/share/themes/brevant/");
+    GtkWidget* label = GTK_WIDGET(g_object_ref_sink(gtk_label_new("x")));
+    std::set<std::string> grounds;
+    for (const char* variant : {"brevant", "brevant-dark", "brevant-high-contrast"}) {
+        test::captured_output output;
+        GError* error = nullptr;
+        zo_theme_use_theme(variant, error);
+        ASSERT_EQ(error, nullptr) << error->message;
+        EXPECT_EQ(output.text(), "");
+        GdkRGBA ground{};
+        ASSERT_TRUE(gtk_style_context_lookup_color(gtk_widget_get_style_context(label), "zo_bg", &ground));
+        char* text = gdk_rgba_to_string(&ground);
+        grounds.insert(text);
+        g_free(text);
+    }
+    EXPECT_EQ(grounds.size(), 3u);
+    g_object_unref(label);
+    zo_theme_uninit();
+}
+
 TEST(ThemeCover, NamesEveryClassAndName) {
     const std::string css = text_of(source() / "share/themes/brevant/style.css");
     std::set<std::string> wanted = selectors_in_code();

@@ -36,10 +36,12 @@ double contrast(const GdkRGBA& one, const GdkRGBA& other) {
     return (high + 0.05) / (low + 0.05);
 }
 
-TEST(ThemeFocus, TheRingOfAToolMenuButtonIsSeenInEveryState) {
+class ThemeFocus : public testing::TestWithParam<const char*> {};
+
+TEST_P(ThemeFocus, TheRingOfAToolMenuButtonIsSeenInEveryState) {
     zo_theme_set_theme_path(std::string(std::getenv("ZO_SOURCE_DIR")) + "/share/themes/brevant/");
     GError* error = nullptr;
-    zo_theme_use_theme("brevant", error);
+    zo_theme_use_theme(GetParam(), error);
     ASSERT_EQ(error, nullptr);
     GtkWidget* menu = gtk_window_new(GTK_WINDOW_POPUP);
     GtkStyleContext* ground = gtk_widget_get_style_context(menu);
@@ -59,5 +61,8 @@ TEST(ThemeFocus, TheRingOfAToolMenuButtonIsSeenInEveryState) {
     gtk_widget_destroy(menu);
     zo_theme_uninit();
 }
+
+INSTANTIATE_TEST_SUITE_P(, ThemeFocus, testing::Values("brevant", "brevant-dark", "brevant-high-contrast"),
+                         [](const auto& info) { return "Variant" + std::to_string(info.index); });
 
 }  // namespace
