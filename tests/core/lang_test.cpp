@@ -134,11 +134,12 @@ TEST_P(Lang, EveryKeyHasItsText) {
 // What is the language's as a whole; a catalogue that is a region's own serves that region only.
 TEST_P(Lang, ARegionHasTheTextsOfItsLanguage) {
     const std::string language = GetParam();
-    const std::string region = language.find('_') == std::string::npos ? language + "_XX" : language + ".UTF-8";
+    const std::string region =
+        language.find('_') == std::string::npos ? language + "_XX" : language + ".UTF-8";
     EXPECT_EQ(only_keys(spoken("all", "C.UTF-8", region)), catalogue(language));
 }
 
-constexpr const char* shipped[] = {"ar", "de", "el", "en", "es", "fr", "he", "hi",
+constexpr const char* shipped[] = {"ar", "de", "el", "en", "es",    "fr", "he", "hi",
                                    "it", "ja", "ko", "pl", "pt_BR", "ru", "uk", "zh_CN"};
 
 INSTANTIATE_TEST_SUITE_P(, Lang, testing::ValuesIn(shipped),

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The widgets that applications put into windows.
 #include "theme/scene.hpp"
+#include "theme/states.hpp"
 
 #include <initializer_list>
 
@@ -29,7 +30,7 @@ GtkWidget* labels() {
                          "Read <a href=\"https://example.org\">the plan of the day</a> first");
     GtkWidget* chosen = gtk_label_new("Chosen text of a label");
     gtk_label_set_selectable(GTK_LABEL(chosen), TRUE);
-    gtk_label_select_region(GTK_LABEL(chosen), 0, 6);
+    g_object_set_data(G_OBJECT(chosen), theme::chosen_length, GINT_TO_POINTER(6));
     GtkWidget* plain = gtk_label_new("A line of text");
     gtk_widget_set_name(plain, "plain");
     return column({plain, dressed(gtk_label_new("A dim line"), {"dim-label"}), link, chosen,
@@ -55,7 +56,7 @@ GtkWidget* fields() {
     GtkWidget* filled = gtk_entry_new();
     gtk_entry_set_text(GTK_ENTRY(filled), "Written and chosen");
     gtk_entry_set_icon_from_icon_name(GTK_ENTRY(filled), GTK_ENTRY_ICON_SECONDARY, "edit-clear-symbolic");
-    gtk_editable_select_region(GTK_EDITABLE(filled), 0, 7);
+    g_object_set_data(G_OBJECT(filled), theme::chosen_length, GINT_TO_POINTER(7));
     GtkWidget* hinted = gtk_entry_new();
     gtk_entry_set_placeholder_text(GTK_ENTRY(hinted), "Placeholder");
     GtkWidget* number = gtk_spin_button_new_with_range(0, 100, 1);

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // What GTK makes of a theme, as lines of fields between tabs, for script/theme-lint:
-//     theme_probe FOLDER THEME [--rtl] [--pictures FOLDER]
+//     theme_probe FOLDER THEME [--rtl] [--ink] [--pictures FOLDER]
 //         rule    the selector of a widget that is there
 //         ink     widget, states, colour, ground, pixels
 //         box     widget, x, y, width, height, then left and right of its margin, border and padding
@@ -19,6 +19,7 @@ namespace {
 
 struct options {
     bool rtl = false;
+    bool ink = false;
     const char* pictures = nullptr;
 };
 
@@ -99,6 +100,7 @@ void print_layout() {
 void save_pictures(const std::string& folder) {
     int number = 0;
     for (GtkWidget* toplevel : theme::stages()) {
+        theme::lay_out(toplevel);
         const theme::picture seen = theme::draw(toplevel, toplevel, CAIRO_ANTIALIAS_DEFAULT);
         auto* data = reinterpret_cast<unsigned char*>(const_cast<std::uint32_t*>(seen.pixels.data()));
         cairo_surface_t* surface = cairo_image_surface_create_for_data(data, CAIRO_FORMAT_RGB24, seen.width,
@@ -115,6 +117,7 @@ int main(int argc, char** argv) {
     options chosen;
     for (int i = 3; i < argc; ++i) {
         if (!std::strcmp(argv[i], "--rtl")) chosen.rtl = true;
+        if (!std::strcmp(argv[i], "--ink")) chosen.ink = true;
         if (!std::strcmp(argv[i], "--pictures") && i + 1 < argc) chosen.pictures = argv[++i];
     }
     zo_ui_init();
@@ -132,10 +135,8 @@ int main(int argc, char** argv) {
         return 1;
     }
     print_layout();
-    if (chosen.pictures)
-        save_pictures(chosen.pictures);
-    else
-        measure_ink();
+    if (chosen.pictures) save_pictures(chosen.pictures);
+    if (chosen.ink) measure_ink();
     std::fflush(stdout);
     zo_system_service_end();
     return 0;

@@ -2,6 +2,7 @@
 #include "theme/scene.hpp"
 
 #include "support/loop.hpp"
+#include "theme/states.hpp"
 #include "theme/walk.hpp"
 
 #include <algorithm>
@@ -81,7 +82,7 @@ void open_panel(theme::scene& scene) {
     zo_window_manager_on_open(scene.panel, [](zo_window_manager_ptr panel) {
         GtkWidget* entry = gtk_entry_new();
         gtk_entry_set_text(GTK_ENTRY(entry), "find");
-        gtk_editable_select_region(GTK_EDITABLE(entry), 0, 2);
+        g_object_set_data(G_OBJECT(entry), theme::chosen_length, GINT_TO_POINTER(2));
         GtkWidget* tools = gtk_box_new(GTK_ORIENTATION_HORIZONTAL, 6);
         for (GtkWidget* tool : {gtk_button_new_with_label("Hide all"), zo_ui_button24_new("icon-settings"),
                                 zo_ui_button16_new("lock-unlocked"), gtk_toggle_button_new_with_label("Pin")})

@@ -57,16 +57,6 @@ void collect(std::vector<theme::situation>& to, GtkWidget* toplevel, GtkWidget* 
     for (GtkWidget* child : below) collect(to, toplevel, child);
 }
 
-// GTK does it before the next frame, for which nobody waits here. A scale draws its marks with what its
-// measuring has left.
-void lay_out(GtkWidget* toplevel) {
-    for (GtkWidget* widget : theme::mapped_widgets(toplevel)) {
-        gtk_style_context_get_scale(gtk_widget_get_style_context(widget));
-        if (GTK_IS_SCALE(widget)) gtk_widget_queue_resize(widget);
-    }
-    gtk_container_check_resize(GTK_CONTAINER(toplevel));
-}
-
 void put_behind(GtkWidget* toplevel, bool behind) {
     if (behind)
         gtk_widget_set_state_flags(toplevel, GTK_STATE_FLAG_BACKDROP, FALSE);
@@ -74,23 +64,13 @@ void put_behind(GtkWidget* toplevel, bool behind) {
         gtk_widget_unset_state_flags(toplevel, GTK_STATE_FLAG_BACKDROP);
 }
 
-// A label forgets what is chosen of it when it is disabled: this chooses it again.
-class chosen_text {
-  public:
-    explicit chosen_text(GtkWidget* widget) : label_(GTK_IS_LABEL(widget) ? GTK_LABEL(widget) : nullptr) {
-        if (label_ && !gtk_label_get_selection_bounds(label_, &from_, &to_)) label_ = nullptr;
-    }
-    ~chosen_text() {
-        if (label_) gtk_label_select_region(label_, from_, to_);
-    }
-    chosen_text(const chosen_text&) = delete;
-    chosen_text& operator=(const chosen_text&) = delete;
-
-  private:
-    GtkLabel* label_;
-    int from_ = 0;
-    int to_ = 0;
-};
+// Of all chosen texts of a screen the last one stays, so each is chosen for its own picture.
+void choose_text(GtkWidget* widget) {
+    const int length = GPOINTER_TO_INT(g_object_get_data(G_OBJECT(widget), theme::chosen_length));
+    if (length == 0) return;
+    if (GTK_IS_LABEL(widget)) gtk_label_select_region(GTK_LABEL(widget), 0, length);
+    if (GTK_IS_EDITABLE(widget)) gtk_editable_select_region(GTK_EDITABLE(widget), 0, length);
+}
 
 // A widget that is disabled already, or a child of one, answers no pointer.
 bool is_possible(const theme::situation& seen) {
@@ -106,16 +86,25 @@ std::vector<theme::situation> theme::situations(const std::vector<GtkWidget*>& t
     return all;
 }
 
+void theme::lay_out(GtkWidget* toplevel) {
+    for (GtkWidget* widget : mapped_widgets(toplevel)) {
+        gtk_style_context_get_scale(gtk_widget_get_style_context(widget));
+        // It draws its marks with what measuring has left.
+        if (GTK_IS_SCALE(widget)) gtk_widget_queue_resize(widget);
+    }
+    gtk_container_check_resize(GTK_CONTAINER(toplevel));
+}
+
 std::vector<theme::picture> theme::drawn(const std::vector<situation>& situations) {
     std::vector<picture> result;
     for (const situation& seen : situations) {
         const int own = gtk_widget_get_state_flags(seen.widget);
         const bool was_behind = gtk_widget_get_state_flags(seen.toplevel) & GTK_STATE_FLAG_BACKDROP;
-        const chosen_text chosen(seen.widget);
         put_behind(seen.toplevel, seen.backdrop);
         const bool sensitive = gtk_widget_get_sensitive(seen.widget);
         if (seen.disabled) gtk_widget_set_sensitive(seen.widget, FALSE);
         gtk_widget_set_state_flags(seen.widget, seen.flags, FALSE);
+        if (!seen.disabled) choose_text(seen.widget);
         lay_out(seen.toplevel);
         result.push_back(draw(seen.toplevel, seen.widget));
         gtk_widget_set_sensitive(seen.widget, sensitive);

@@ -22,6 +22,12 @@ struct situation {
 // pressed, chosen, disabled, and all of that while another application is in front.
 std::vector<situation> situations(const std::vector<GtkWidget*>& toplevels);
 
+// Lays a toplevel out at once, as GTK does before its next frame, for which nobody waits here.
+void lay_out(GtkWidget* toplevel);
+
+// Widget data: how many letters of its text a person has chosen.
+inline constexpr const char* chosen_length = "zo-chosen-length";
+
 std::vector<picture> drawn(const std::vector<situation>& situations);
 
 }  // namespace theme
