@@ -59,6 +59,16 @@ GtkWidget* few_words() {
     return box;
 }
 
+// Has the window become as wide as its content, which it does some layouts after it is shown?
+bool is_laid_out(GtkWidget* toplevel) {
+    GtkWidget* const content = theme::find_class(toplevel, "window-content");
+    if (!content) return true;
+    int natural = 0;
+    gtk_widget_get_preferred_width(content, nullptr, &natural);
+    return gtk_widget_get_allocated_width(content) >= natural &&
+           gtk_widget_get_allocated_width(toplevel) >= gtk_widget_get_allocated_width(content);
+}
+
 GtkWidget* launcher_new() {
     GtkWidget* menu = gtk_menu_new();
     GtkWidget* disabled = gtk_menu_item_new_with_label("Studio");
@@ -170,7 +180,8 @@ theme::scene theme::build_scene() {
     open_menus();
     made.complete = test::turn_until([] {
         const std::vector<GtkWidget*> all = stages();
-        return all.size() == 10 && std::all_of(all.begin(), all.end(), is_on_screen);
+        return all.size() == 10 && std::all_of(all.begin(), all.end(), is_on_screen) &&
+               std::all_of(all.begin(), all.end(), is_laid_out);
     });
     return made;
 }
