@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "callback_log.hpp"
 
+#include "code_view.hpp"
+
 #include <algorithm>
 
 namespace {
@@ -13,8 +15,7 @@ demo::callback_log::callback_log() : buffer_(gtk_text_buffer_new(nullptr)) {
     GtkTextIter end;
     gtk_text_buffer_get_end_iter(buffer_, &end);
     end_ = gtk_text_buffer_create_mark(buffer_, "end", &end, FALSE);
-    gtk_text_buffer_create_tag(buffer_, "window", "weight", PANGO_WEIGHT_BOLD, "foreground", "#0e6b75",
-                               nullptr);
+    gtk_text_buffer_create_tag(buffer_, "window", "weight", PANGO_WEIGHT_BOLD, nullptr);
 }
 
 demo::callback_log::~callback_log() {
@@ -28,7 +29,9 @@ void demo::callback_log::add(const std::string& window, const std::string& what)
     gtk_text_buffer_get_end_iter(buffer_, &end);
     if (lines_.size() > 1) gtk_text_buffer_insert(buffer_, &end, "\n", -1);
     gtk_text_buffer_insert_with_tags_by_name(buffer_, &end, window.c_str(), -1, "window", nullptr);
-    gtk_text_buffer_insert(buffer_, &end, ("\t" + what).c_str(), -1);
+    const std::size_t line = what.find('\n');  // the view shows the first line of what has several
+    const std::string shown = line == std::string::npos ? what : what.substr(0, line) + " …";
+    gtk_text_buffer_insert(buffer_, &end, ("\t" + shown).c_str(), -1);
     if (view_) gtk_text_view_scroll_mark_onscreen(GTK_TEXT_VIEW(view_), end_);
 }
 
@@ -37,6 +40,11 @@ GtkWidget* demo::callback_log::view_new() {
     if (view_) g_object_remove_weak_pointer(G_OBJECT(view_), reinterpret_cast<gpointer*>(&view_));
     view_ = view;
     g_object_add_weak_pointer(G_OBJECT(view_), reinterpret_cast<gpointer*>(&view_));
+    gtk_widget_set_name(view, "log");
+    gtk_style_context_add_class(gtk_widget_get_style_context(view), "gallery-log");
+    gtk_widget_set_direction(view, GTK_TEXT_DIR_LTR);
+    follow_theme_colour(gtk_text_tag_table_lookup(gtk_text_buffer_get_tag_table(buffer_), "window"), view,
+                        "zo_accent");
     auto* text = GTK_TEXT_VIEW(view);
     gtk_text_view_set_editable(text, FALSE);
     gtk_text_view_set_cursor_visible(text, FALSE);
@@ -54,9 +62,16 @@ GtkWidget* demo::callback_log::view_new() {
                            end_);
     GtkWidget* scroll = gtk_scrolled_window_new(nullptr, nullptr);
     gtk_scrolled_window_set_shadow_type(GTK_SCROLLED_WINDOW(scroll), GTK_SHADOW_IN);
-    gtk_scrolled_window_set_policy(GTK_SCROLLED_WINDOW(scroll), GTK_POLICY_NEVER, GTK_POLICY_AUTOMATIC);
+    gtk_scrolled_window_set_policy(GTK_SCROLLED_WINDOW(scroll), GTK_POLICY_AUTOMATIC, GTK_POLICY_AUTOMATIC);
+    gtk_scrolled_window_set_overlay_scrolling(GTK_SCROLLED_WINDOW(scroll), FALSE);
+    gtk_widget_set_direction(scroll, GTK_TEXT_DIR_LTR);
     gtk_container_add(GTK_CONTAINER(scroll), view);
     return scroll;
+}
+
+void demo::callback_log::clear() {
+    lines_.clear();
+    gtk_text_buffer_set_text(buffer_, "", -1);
 }
 
 bool demo::callback_log::contains(const std::string& window, const std::string& what) const {

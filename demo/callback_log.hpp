@@ -18,6 +18,8 @@ class callback_log {
 
     void add(const std::string& window, const std::string& what);
 
+    void clear();
+
     // A new scrolling view of the log; the caller packs it.
     GtkWidget* view_new();
 

@@ -2,6 +2,8 @@
 #include "tour.hpp"
 
 #include "backdrop.hpp"
+#include "texts.hpp"
+#include "tour_gallery.hpp"
 #include "tour_messages.hpp"
 #include "tour_panel.hpp"
 #include "tour_tools.hpp"
@@ -19,9 +21,13 @@ void title_button(const std::string& id, const std::string& style_class) {
 }
 
 void three_windows(visit& v) {
-    for (const char* id : {"notes", "studio", "settings"})
+    open_page("life-cycle");
+    for (const char* id : {"notes", "studio"}) {
+        click(on_page(std::string("subject-") + id));
+        click(on_page("summon"));
         expect(std::string(id) + " is on screen",
                [&] { return is_open(id) && is_on_screen(window_named(id)); });
+    }
     v.expect_logged("studio", "activate");
     v.picture("three-windows");
 }
@@ -49,13 +55,13 @@ void tool_menu(visit& v) {
     expect("the tool menu is on screen",
            [] { return has_window_of_class("tool-menu") && is_on_screen(window_of_class("tool-menu")); });
     GtkWidget* menu = window_of_class("tool-menu");
-    GtkWidget* entry = button_labelled(menu, "More petals");
+    GtkWidget* entry = widget_named(menu, "more-petals");
     point_at(entry);
     expect("the entry under the pointer lights up",
            [&] { return gtk_widget_get_state_flags(entry) & GTK_STATE_FLAG_PRELIGHT; });
     v.picture("tool-menu");
     click(entry);
-    v.expect_logged("studio", "menu: More petals");
+    v.expect_logged("studio", "menu: more-petals");
 }
 
 void photo(visit& v) {
@@ -72,27 +78,32 @@ void photo(visit& v) {
 }
 
 void flags_and_reopening(visit& v) {
-    GtkWidget* settings = window_named("settings");
-    click(widget_named(settings, "Back button"));
-    click(widget_named(settings, "Hint button"));
-    click(widget_named(settings, "Advertisement strip"));
-    v.expect_logged("settings", "Advertisement strip: on");
-    click(widget_named(settings, "title-entry"));
-    type("Ideas");
-    v.expect_logged("notes", "title: Ideas");
-    const int opening = zo_window_instance_id(v.shop.notes);
-    click(widget_named(settings, "open-again"));
-    expect("the notes are open again", [&] {
-        return zo_window_instance_id(v.shop.notes) > opening && is_open("notes") &&
-               is_on_screen(window_named("notes"));
-    });
+    open_page("flags");
+    click(on_page("subject-notes"));
+    for (const char* flag : {"enable_title_back", "enable_title_hint", "enable_content_ads"}) {
+        const int opening = zo_window_instance_id(v.shop.notes);
+        click(on_page(flag));
+        v.expect_logged("flags", std::string(flag) + ": on");
+        expect("the notes are open again", [&] {
+            return zo_window_instance_id(v.shop.notes) > opening && is_open("notes") &&
+                   is_on_screen(window_named("notes"));
+        });
+    }
     widget_of_class(window_named("notes"), "title-back");
     widget_of_class(window_named("notes"), "window-ads-container");
     v.picture("flags-flipped-and-opened-again");
+    open_page("contents");
+    click(on_page("title-entry"));
+    type("Ideas");
+    v.expect_logged("notes", "title: Ideas");
+    click(on_page("add-child"));
+    v.expect_logged("content", "packed");
+    v.picture("texts-and-a-child");
 }
 
 void closing_and_refusing(visit& v) {
-    GtkWidget* refuse = widget_named(window_named("settings"), "refuse-to-close");
+    open_page("title-bar");
+    GtkWidget* refuse = on_page("refuse-to-close");
     click(refuse);
     expect("closing is refused", [&] { return v.shop.ask_before_closing; });
     title_button("notes", "title-close");
@@ -119,11 +130,12 @@ void leave(visit& v) {
     expect("the notes are back", [&] { return is_open("notes") && is_on_screen(window_named("notes")); });
     v.picture("everything-back");
     title_button("studio", "title-exit");
-    v.expect_logged("settings", "destroy");
+    v.expect_logged("notes", "destroy");
 }
 
 void take(visit& v) {
-    for (const auto step : {three_windows,
+    for (const auto step : {gallery_pages,
+                            three_windows,
                             drag_by_the_title,
                             hint_and_back,
                             tool_menu,
@@ -136,6 +148,7 @@ void take(visit& v) {
                             task_buttons,
                             panel_toolbar,
                             panel_closed_and_opened,
+                            panel_closed_for_a_while,
                             closing_by_the_task,
                             active_title,
                             message_stack,

@@ -2,7 +2,11 @@
 #include "tour_messages.hpp"
 
 #include "notifications.hpp"
+#include "texts.hpp"
+#include "tour_gallery.hpp"
 #include "tour_tools.hpp"
+
+using demo::_;
 
 namespace {
 
@@ -10,6 +14,7 @@ using namespace demo::tour;
 
 constexpr int top = 75;
 constexpr int gap = 2;
+constexpr int room = 540;
 
 std::vector<GtkWidget*> popups() {
     std::vector<GtkWidget*> found;
@@ -33,9 +38,18 @@ bool is_up(const std::string& title) {
     return found && is_on_screen(found);
 }
 
-void press(const std::string& label) { click(button_labelled(window_named("messages"), label)); }
+void press(const char* name) { click(on_page(name)); }
 
-void flip(const char* name) { click(widget_named(window_named("messages"), name)); }
+// The gallery makes room for the notifications of the process, which stand at the left, and goes back.
+void move_gallery(int dx) {
+    GtkWidget* gallery = window_named("gallery");
+    const place before = place_of(gallery);
+    const int way = dx * gtk_widget_get_scale_factor(gallery);
+    drag(widget_of_class(gallery, "title-text"), way, 0);
+    expect("the gallery was dragged aside", [&] {
+        return place_of(gallery) == place{before.x + way, before.y};
+    });
+}
 
 // Each stands below the one before, the first of them at the top.
 bool are_stacked(const std::vector<std::string>& titles, int x) {
@@ -61,8 +75,11 @@ void click_link(GtkWidget* popup_window) {
     GtkWidget* label = widget_of_class(popup_window, "content-text");
     PangoLayout* layout = gtk_label_get_layout(GTK_LABEL(label));
     const std::string text = gtk_label_get_text(GTK_LABEL(label));
+    const std::string markup = gtk_label_get_label(GTK_LABEL(label));
+    const std::size_t begin = markup.find('>', markup.find("<a ")) + 1;
+    const std::string linked = markup.substr(begin, markup.find("</a>") - begin);
     PangoRectangle at;
-    pango_layout_index_to_pos(layout, static_cast<int>(text.find("the plan")) + 2, &at);
+    pango_layout_index_to_pos(layout, static_cast<int>(text.find(linked) + linked.size() / 2), &at);
     int x = 0;
     int y = 0;
     gtk_label_get_layout_offsets(GTK_LABEL(label), &x, &y);
@@ -79,57 +96,59 @@ void click_link(GtkWidget* popup_window) {
 namespace demo::tour {
 
 void message_stack(visit& v) {
-    for (const zo_window_ptr& window : {v.shop.notes, v.shop.studio, v.shop.settings}) zo_window_hide(window);
-    summon(v.shop, v.shop.messages);
-    expect("the messages window is on screen",
-           [] { return is_open("messages") && is_on_screen(window_named("messages")); });
-    for (const char* label : {"Backup", "Broken markup", "Invitation", "Right to left"}) press(label);
+    for (const zo_window_ptr& window : {v.shop.notes, v.shop.studio}) zo_window_hide(window);
+    summon(v.shop, v.shop.gallery);
+    expect("the gallery is on screen", [] { return is_on_screen(window_named("gallery")); });
+    open_page("notifications");
+    move_gallery(room);
+    for (const char* name : {"backup", "broken", "invitation", "arabic"}) press(name);
     expect_stack("the notifications stand below one another",
-                 {"Backup finished", "Not markup", "Message from Ana", "رسالة جديدة"}, 50);
+                 {_("Backup finished"), _("Not markup"), _("Message from Ana"), "رسالة جديدة"}, 50);
     v.picture("notifications");
-    click(widget_of_class(popup("Not markup"), "title-close"));
-    v.expect_logged("messages", "closed: Not markup");
-    expect_stack("the gap is closed", {"Backup finished", "Message from Ana", "رسالة جديدة"}, 50);
+    click(widget_of_class(popup(_("Not markup")), "title-close"));
+    v.expect_logged("messages", "closed: broken");
+    expect_stack("the gap is closed", {_("Backup finished"), _("Message from Ana"), "رسالة جديدة"}, 50);
     v.picture("notification-in-the-middle-closed");
 }
 
 void link_action_and_timeout(visit& v) {
-    click_link(popup("Message from Ana"));
+    click_link(popup(_("Message from Ana")));
     v.expect_logged("messages", "link: https://example.org/plan");
-    if (!is_up("Message from Ana")) throw failed_step("the notification stays after its link");
-    click(button_labelled(popup("Backup finished"), "Later"));
-    v.expect_logged("messages", "action: Later");
-    expect("its action closed it", [] { return !popup("Backup finished"); });
-    flip("leaving");
+    if (!is_up(_("Message from Ana"))) throw failed_step("the notification stays after its link");
+    click(button_labelled(popup(_("Backup finished")), _("Later")));
+    v.expect_logged("messages", "action: later");
+    expect("its action closed it", [] { return !popup(_("Backup finished")); });
+    press("leaving");
     expect("they leave by themselves", [&] { return v.shop.messages_leave; });
-    press("No actions");
-    expect("it is up for a while", [] { return is_up("Battery at 80 %"); });
+    press("plain");
+    expect("it is up for a while", [] { return is_up(_("Battery at 80 %")); });
     v.picture("link-and-action-used");
-    expect("and closes by itself", [] { return !popup("Battery at 80 %"); });
-    flip("leaving");
+    expect("and closes by itself", [] { return !popup(_("Battery at 80 %")); });
+    press("leaving");
     expect("they stay again", [&] { return !v.shop.messages_leave; });
-    press("Close all");
+    press("close-all");
     expect("all are closed", [] { return popups().empty(); });
+    move_gallery(-room);
 }
 
 void messages_of_the_panel(visit& v) {
-    flip("on-panel");
+    press("on-panel");
     expect("they go to the panel", [&] { return v.shop.messages_on_panel; });
     const int x = zo_ui_screen_width() - 570;
-    press("Invitation");
-    press("Long words");
-    expect_stack("they are stacked at the right", {"Message from Ana", "One word may be very long"}, x);
+    press("invitation");
+    press("long");
+    expect_stack("they are stacked at the right", {_("Message from Ana"), _("One word may be very long")}, x);
     v.picture("notifications-of-the-panel");
     zo_window_manager_hide(v.shop.panel);
-    expect("they are hidden with the panel", [] { return !is_up("Message from Ana"); });
+    expect("they are hidden with the panel", [] { return !is_up(_("Message from Ana")); });
     if (popups().size() != 2) throw failed_step("the hidden ones are kept");
     zo_window_manager_show(v.shop.panel);
-    expect_stack("they come back with it", {"Message from Ana", "One word may be very long"}, x);
-    summon(v.shop, v.shop.messages);
-    expect("the messages window is back", [] { return is_on_screen(window_named("messages")); });
-    press("Close all");
+    expect_stack("they come back with it", {_("Message from Ana"), _("One word may be very long")}, x);
+    summon(v.shop, v.shop.gallery);
+    expect("the gallery is back", [] { return is_on_screen(window_named("gallery")); });
+    press("close-all");
     expect("all of the panel's are closed", [] { return popups().empty(); });
-    flip("on-panel");
+    press("on-panel");
     expect("they leave the panel", [&] { return !v.shop.messages_on_panel; });
 }
 

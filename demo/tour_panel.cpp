@@ -1,7 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "tour_panel.hpp"
 
+#include "texts.hpp"
+#include "tour_gallery.hpp"
 #include "tour_tools.hpp"
+
+using demo::_;
 
 namespace {
 
@@ -87,11 +91,11 @@ void panel_lock(visit& v) {
 }
 
 void task_buttons(visit& v) {
-    click(task_of("Studio"));
+    click(task_of(_("Studio")));
     expect("the task button hides its window", [&] { return !is_visible(v.shop.studio); });
     v.picture("hidden-by-its-task");
     const std::size_t before = v.shop.log.size();
-    click(task_of("Studio"));
+    click(task_of(_("Studio")));
     expect("the task button brings its window back",
            [&] { return is_visible(v.shop.studio) && is_on_screen(window_named("studio")); });
     expect("and activates it", [&] { return v.shop.log.contains_since(before, "studio", "activate"); });
@@ -101,8 +105,9 @@ void panel_toolbar(visit& v) {
     click(widget_of_class(panel_window(), "lock-locked"));
     expect("the lock is open", [&] { return !zo_window_manager_get_keep_extended(v.shop.panel); });
     let_go();
+    open_page("slots");
     const int row = height();
-    GtkWidget* toggle = widget_named(window_named("settings"), "toolbar");
+    GtkWidget* toggle = on_page("toolbar");
     click(toggle);
     expect("the toolbar makes the panel higher", [&] { return height() > row; });
     expect("and one row of it is left on screen", is_retracted);
@@ -123,10 +128,22 @@ void panel_closed_and_opened(visit& v) {
            [&] { return has_window_of_class("zo-manager") && is_on_screen(panel_window()); });
     bring_out();
     expect("a window that was saved while visible is back", [&] { return is_visible(v.shop.studio); });
-    click(task_of("Settings"));
-    expect("the others come back by their tasks", [&] { return is_visible(v.shop.settings); });
+    click(task_of(_("Gallery")));
+    expect("the others come back by their tasks", [&] { return is_visible(v.shop.gallery); });
     v.picture("panel-opened-again");
     let_go();
+}
+
+// As a person does it who works in the gallery, which goes with the panel.
+void panel_closed_for_a_while(visit& v) {
+    open_page("panel");
+    click(on_page("close-panel"));
+    expect("the panel and the gallery are gone",
+           [&] { return !has_window_of_class("zo-manager") && !is_visible(v.shop.gallery); });
+    expect("both come back", [&] {
+        return has_window_of_class("zo-manager") && is_on_screen(panel_window()) &&
+               is_visible(v.shop.gallery) && is_on_screen(window_named("gallery"));
+    });
 }
 
 // The task row closes a window at once: it asks nobody, whether the window would refuse or not.
@@ -149,7 +166,8 @@ void closing_by_the_task(visit& v) {
 void active_title(visit& v) {
     bring_out();
     GtkLabel* label = GTK_LABEL(widget_named(panel_window(), "active-title"));
-    for (const auto& [window, title] : {std::pair{v.shop.studio, "Studio"}, {v.shop.settings, "Settings"}}) {
+    for (const auto& [window, title] :
+         {std::pair{v.shop.studio, _("Studio")}, {v.shop.gallery, _("Gallery")}}) {
         zo_window_activate(window);
         expect(std::string("the panel tells that the active window is ") + title,
                [&, title = title] { return g_strcmp0(gtk_label_get_text(label), title) == 0; });

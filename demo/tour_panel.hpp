@@ -25,6 +25,7 @@ void panel_lock(visit& v);
 void task_buttons(visit& v);
 void panel_toolbar(visit& v);
 void panel_closed_and_opened(visit& v);
+void panel_closed_for_a_while(visit& v);
 void closing_by_the_task(visit& v);
 void active_title(visit& v);
 

@@ -54,6 +54,24 @@ demo::tour::place middle_of(GtkWidget* widget) {
     return {origin.x + x * scale, origin.y + y * scale};
 }
 
+std::function<bool(GtkWidget*)> of_label(const std::string& label) {
+    return [label](GtkWidget* widget) {
+        return GTK_IS_BUTTON(widget) &&
+               g_strcmp0(gtk_button_get_label(GTK_BUTTON(widget)), label.c_str()) == 0;
+    };
+}
+
+void scroll_to(GtkWidget* widget) {
+    for (GtkWidget* view = gtk_widget_get_ancestor(widget, GTK_TYPE_VIEWPORT); view;
+         view = gtk_widget_get_ancestor(gtk_widget_get_parent(view), GTK_TYPE_VIEWPORT)) {
+        GtkWidget* content = gtk_bin_get_child(GTK_BIN(view));
+        int y = 0;
+        gtk_widget_translate_coordinates(widget, content, 0, 0, nullptr, &y);
+        gtk_adjustment_clamp_page(gtk_scrollable_get_vadjustment(GTK_SCROLLABLE(view)), y,
+                                  y + gtk_widget_get_allocated_height(widget));
+    }
+}
+
 std::vector<std::string> move_to(const demo::tour::place& to) {
     return {"xdotool", "mousemove", std::to_string(to.x), std::to_string(to.y)};
 }
@@ -121,11 +139,13 @@ GtkWidget* widget_named(GtkWidget* root, const std::string& name) {
 }
 
 GtkWidget* button_labelled(GtkWidget* root, const std::string& label) {
-    const auto wanted = [&](GtkWidget* widget) {
-        return GTK_IS_BUTTON(widget) &&
-               g_strcmp0(gtk_button_get_label(GTK_BUTTON(widget)), label.c_str()) == 0;
-    };
-    return required(find(root, wanted), "button " + label);
+    return required(find(root, of_label(label)), "button " + label);
+}
+
+GtkWidget* descendant_named(GtkWidget* root, const std::string& name) { return find(root, of_name(name)); }
+
+bool has_button_labelled(GtkWidget* root, const std::string& label) {
+    return find(root, of_label(label)) != nullptr;
 }
 
 bool is_on_screen(GtkWidget* widget) {
@@ -147,6 +167,7 @@ void point_to(int x, int y) { run(move_to({x, y})); }
 void point_at(GtkWidget* widget) { run(move_to(middle_of(widget))); }
 
 void click(GtkWidget* widget) {
+    scroll_to(widget);
     std::vector<std::string> command = move_to(middle_of(widget));
     command.insert(command.end(), {"click", "1"});
     run(command);
@@ -162,7 +183,10 @@ void drag(GtkWidget* widget, int dx, int dy) {
     run({"xdotool", "mouseup", "1"});
 }
 
-void type(const std::string& text) { run({"xdotool", "type", text}); }
+void type(const std::string& text) {
+    run({"xdotool", "key", "ctrl+a"});
+    run({"xdotool", "type", text});
+}
 
 void photograph(const std::string& file) { run({"import", "-window", "root", file}); }
 

@@ -28,6 +28,9 @@ GtkWidget* window_of_class(const std::string& style_class);
 GtkWidget* widget_of_class(GtkWidget* root, const std::string& style_class);
 GtkWidget* widget_named(GtkWidget* root, const std::string& name);
 GtkWidget* button_labelled(GtkWidget* root, const std::string& label);
+// The same, null or false when there is none.
+GtkWidget* descendant_named(GtkWidget* root, const std::string& name);
+bool has_button_labelled(GtkWidget* root, const std::string& label);
 bool is_open(const std::string& id);
 bool has_window_of_class(const std::string& style_class);
 bool is_on_screen(GtkWidget* widget);
@@ -40,10 +43,12 @@ struct place {
 };
 place place_of(GtkWidget* toplevel);
 
+// Scrolls the widget into sight first.
 void click(GtkWidget* widget);
 void drag(GtkWidget* widget, int dx, int dy);
 void point_at(GtkWidget* widget);
 void point_to(int x, int y);
+// In the entry that has the focus, in place of its text.
 void type(const std::string& text);
 
 // The whole screen as a PNG.

@@ -1,11 +1,15 @@
 // SPDX-License-Identifier: MIT
 // The tray's icon and menu as the desktop's host sees them: over the session bus.
 #include "notifications.hpp"
+#include "texts.hpp"
+#include "tour_gallery.hpp"
 #include "tour_messages.hpp"
 #include "tour_tools.hpp"
 #include "tray.hpp"
 
 #include <memory>
+
+using demo::_;
 
 namespace {
 
@@ -86,15 +90,16 @@ void choose(const std::string& label) {
 }  // namespace
 
 void demo::tour::tray_menu(visit& v) {
-    click(button_labelled(window_named("messages"), "Show the tray icon"));
+    open_page("tray");
+    click(on_page("show-tray"));
     expect("the desktop's tray has the icon", host_has_the_icon);
-    choose("Raise a notification");
+    choose(_("Raise a notification"));
     v.expect_logged("tray", "3-raise");
-    v.expect_logged("messages", "raised: Backup finished");
+    v.expect_logged("messages", "raised: backup");
     v.picture("tray-icon-and-its-notification");
-    choose("Close the panel");
+    choose(_("Close the panel"));
     expect("the tray closes the panel", [] { return !has_window_of_class("zo-manager"); });
-    choose("Open the panel");
+    choose(_("Open the panel"));
     expect("the tray opens the panel", [] { return has_window_of_class("zo-manager"); });
     close_messages(v.shop);
     expect("its notification is closed", [&] { return v.shop.raised.empty(); });

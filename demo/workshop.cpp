@@ -1,20 +1,22 @@
 // SPDX-License-Identifier: MIT
 #include "workshop.hpp"
 
-#include <algorithm>
+#include "tray.hpp"
+
+#include <utility>
 
 namespace {
 
 struct place {
-    double x;  // share of the free width and height of the work area
+    double x;  // share of the width and height of the work area
     double y;
 };
 
+// The samples stand at the right, over the gallery's code: its controls stay within reach.
 place place_of(const demo::workshop& shop, const zo_window_ptr& window) {
-    if (window == shop.notes) return {0.03, 0.08};
-    if (window == shop.studio) return {0.36, 0.16};
-    if (window == shop.messages) return {0.40, 0.55};
-    return {0.685, 0.08};
+    if (window == shop.notes) return {0.62, 0.08};
+    if (window == shop.studio) return {0.58, 0.5};
+    return {0.02, 0.065};
 }
 
 void move_to_place(const demo::workshop& shop, const zo_window_ptr& window) {
@@ -52,12 +54,10 @@ void demo::log_life_cycle(workshop& shop, const zo_window_ptr& window, const std
 void demo::start(workshop& shop) {
     zo_window_manager_open(shop.panel);
     zo_window_manager_show(shop.panel);
-    for (const zo_window_ptr& window : {shop.notes, shop.studio, shop.settings}) {
+    for (const zo_window_ptr& window : {shop.gallery, shop.notes, shop.studio})
         zo_window_set_window_manager(window, shop.panel);
-        appear(shop, window);
-    }
-    zo_window_set_window_manager(shop.messages, shop.panel);
-    zo_window_activate(shop.studio);
+    appear(shop, shop.gallery);
+    zo_window_activate(shop.gallery);
 }
 
 void demo::reopen(workshop& shop, const zo_window_ptr& window) {
@@ -67,9 +67,9 @@ void demo::reopen(workshop& shop, const zo_window_ptr& window) {
 }
 
 void demo::quit(workshop& shop) {
+    if (std::exchange(shop.leaving, true)) return;
     for (const zo_notification_ptr& notification : shop.raised) zo_notification_destroy(notification);
-    if (shop.tray) zo_appindicator_to_object(shop.tray)->destroy("demo", __LINE__);
-    shop.tray.reset();
+    remove_tray(shop);
     zo_window_manager_close(shop.panel);
     zo_window_manager_destroy(shop.panel);
     // The panel's end posts that of its windows, so the loop's end is posted behind both.
@@ -78,16 +78,12 @@ void demo::quit(workshop& shop) {
 }
 
 void demo::summon(workshop& shop, const zo_window_ptr& window) {
-    bool opened = false;
-    zo_window_is_opened(window, &opened);
-    if (!opened) appear(shop, window);
+    if (!is_opened(window)) appear(shop, window);
     zo_window_show(window);
     zo_window_activate(window);
 }
 
-GtkWidget* demo::text_label(const std::string& markup) {
-    GtkWidget* label = gtk_label_new(nullptr);
-    gtk_label_set_markup(GTK_LABEL(label), markup.c_str());
-    gtk_label_set_xalign(GTK_LABEL(label), 0);
-    return label;
+bool demo::is_opened(const zo_window_ptr& window) {
+    bool opened = false;
+    return zo_window_is_opened(window, &opened) && opened;
 }

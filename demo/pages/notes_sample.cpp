@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
-// Notes: text that lives in the content box, and the log of every callback.
+// The notes: a sample window with text that outlives its widgets.
+#include "texts.hpp"
 #include "workshop.hpp"
+
+using demo::_;
 
 namespace {
 
@@ -24,29 +27,35 @@ GtkWidget* notes_view(demo::workshop& shop) {
     gtk_text_view_set_pixels_below_lines(text, 2);
     GtkTextBuffer* buffer = gtk_text_view_get_buffer(text);
     gtk_text_buffer_set_text(buffer, shop.notes_text.c_str(), -1);
-    g_signal_connect(buffer, "changed", G_CALLBACK(+[](GtkTextBuffer* changed, demo::workshop* s) {
-                         s->notes_text = text_of(changed);
-                     }),
-                     &shop);
+    g_signal_connect(
+        buffer, "changed",
+        G_CALLBACK(+[](GtkTextBuffer* changed, demo::workshop* s) {
+            s->notes_text = text_of(changed);
+        }),
+        &shop);
     GtkWidget* scroll = gtk_scrolled_window_new(nullptr, nullptr);
-    gtk_scrolled_window_set_shadow_type(GTK_SCROLLED_WINDOW(scroll), GTK_SHADOW_IN);
+    gtk_scrolled_window_set_shadow_type(GTK_SCROLLED_WINDOW(scroll),
+                                        GTK_SHADOW_IN);
     gtk_container_add(GTK_CONTAINER(scroll), view);
-    gtk_widget_set_size_request(scroll, 340, 190);
+    gtk_widget_set_size_request(scroll, 340, 180);
     return scroll;
 }
 
 }  // namespace
 
 void demo::make_notes_window(workshop& shop) {
+    shop.notes_text =
+        _("Things to try\n\n"
+          "  ·  drag a window by its title\n"
+          "  ·  open the tool menu of the studio\n"
+          "  ·  flip a flag in the gallery and look here\n");
     shop.notes = zo_window_new("notes");
-    zo_window_set_title(shop.notes, "Notes");
+    zo_window_set_title(shop.notes, _("Notes"));
     log_life_cycle(shop, shop.notes, "notes");
-    zo_window_set_window_open_callback(shop.notes, [&shop](zo_window_ptr window) {
-        zo_window_add_content_child(window, notes_view(shop), true, true, 0, false);
-        zo_window_add_content_child(window, text_label("<b>Callbacks</b>"), false, false, 8, false);
-        GtkWidget* log = shop.log.view_new();
-        gtk_widget_set_size_request(log, 340, 210);
-        zo_window_add_content_child(window, log, true, true, 0, false);
-        shop.log.add("notes", "open");
-    });
+    zo_window_set_window_open_callback(
+        shop.notes, [&shop](zo_window_ptr window) {
+            zo_window_add_content_child(window, notes_view(shop), true,
+                                        true, 0, false);
+            shop.log.add("notes", "open");
+        });
 }

@@ -1,0 +1,116 @@
+// SPDX-License-Identifier: MIT
+#include "tour_gallery.hpp"
+
+#include "pages/page.hpp"
+#include "places.hpp"
+#include "texts.hpp"
+#include "tour_tools.hpp"
+
+namespace {
+
+using namespace demo::tour;
+
+GtkWidget* gallery() { return window_named("gallery"); }
+
+std::string value_beside(GtkWidget* grid, int row) {
+    return gtk_label_get_text(GTK_LABEL(gtk_grid_get_child_at(GTK_GRID(grid), 1, row)));
+}
+
+void themes(visit& v) {
+    const std::string first = zo_theme_get_theme_name();
+    const auto choose = [&v](const std::string& name) {
+        const std::size_t before = v.shop.log.size();
+        click(on_page("theme-" + name));
+        expect("the theme " + name + " is loaded",
+               [&] { return v.shop.log.contains_since(before, "theme", "loaded: " + name); });
+    };
+    for (const demo::theme_place& theme : demo::installed_themes()) {
+        if (theme.name == first) continue;
+        choose(theme.name);
+        v.picture("gallery-in-" + theme.name);
+        choose(first);
+    }
+    const GtkTextDirection reading = gtk_widget_get_default_direction();
+    click(on_page("right-to-left"));
+    expect("every widget turns round", [&] {
+        return gtk_widget_get_default_direction() != reading && place_of(gallery()).x >= 0 &&
+               is_on_screen(on_page("right-to-left"));
+    });
+    v.picture("gallery-turned-round");
+    click(on_page("right-to-left"));
+    expect("and back again", [&] { return gtk_widget_get_default_direction() == reading; });
+}
+
+void sized_buttons(visit& v) {
+    click(widget_of_class(on_page("controls"), "icon-search"));
+    v.expect_logged("widgets", "icon-search");
+    click(on_page("copy-code"));
+    click(on_page("read-clipboard"));
+    const std::string code = [] {
+        for (const demo::page* page : demo::pages())
+            if (std::string_view(page->id) == "widgets") return page->code.text;
+        return "";
+    }();
+    v.expect_logged("clipboard", code);
+}
+
+void active_facts(visit&) {
+    GtkWidget* facts = widget_of_class(on_page("controls"), "gallery-facts");
+    expect("the active window is the gallery", [&] { return value_beside(facts, 0) == demo::_("Gallery"); });
+}
+
+void posting(visit& v) {
+    click(on_page("post"));
+    v.expect_logged("threads", "all came, in order");
+    GtkWidget* facts = widget_of_class(on_page("controls"), "gallery-facts");
+    expect("all tasks are counted", [&] { return value_beside(facts, 0) == value_beside(facts, 1); });
+}
+
+void counting(visit& v) {
+    click(on_page("make-and-drop"));
+    v.expect_logged("inside", "events: 1000");
+    v.expect_logged("inside", "events: 0");
+}
+
+void slots(visit& v) {
+    click(on_page("add-left"));
+    expect("the panel has the widget",
+           [] { return has_button_labelled(window_of_class("zo-manager"), demo::_("At the start")); });
+    zo_window_manager_extend(v.shop.panel);
+    v.picture("widget-added-to-the-panel");
+    click(button_labelled(window_of_class("zo-manager"), demo::_("At the start")));
+    v.expect_logged("panel", "removed at the left");
+    zo_window_manager_retract(v.shop.panel);
+}
+
+struct deed {
+    const char* page;
+    void (*act)(visit&);
+};
+constexpr deed deeds[] = {
+    {"theme", themes},    {"widgets", sized_buttons}, {"desktop", active_facts},
+    {"threads", posting}, {"inside", counting},       {"slots", slots},
+};
+
+}  // namespace
+
+void demo::tour::open_page(const std::string& id) {
+    click(widget_named(widget_named(gallery(), "pages"), id));
+    expect("the page " + id + " is shown", [&] {
+        GtkWidget* page = descendant_named(gallery(), "page-" + id);
+        return page && is_on_screen(page);
+    });
+}
+
+GtkWidget* demo::tour::on_page(const std::string& name) { return widget_named(gallery(), name); }
+
+void demo::tour::gallery_pages(visit& v) {
+    expect("the gallery is on screen", [] { return is_open("gallery") && is_on_screen(gallery()); });
+    v.expect_logged("gallery", "activate");
+    for (const page* each : pages()) {
+        open_page(each->id);
+        for (const deed& d : deeds)
+            if (std::string_view(d.page) == each->id) d.act(v);
+        v.picture(std::string("gallery-") + each->id);
+    }
+}
