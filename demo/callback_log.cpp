@@ -2,10 +2,13 @@
 #include "callback_log.hpp"
 
 #include "code_view.hpp"
+#include "controls.hpp"
 
 #include <algorithm>
 
 namespace {
+
+constexpr int names = 86;  // pixels, the column of the windows
 
 std::string line_of(const std::string& window, const std::string& what) { return window + "\t" + what; }
 
@@ -33,6 +36,7 @@ void demo::callback_log::add(const std::string& window, const std::string& what)
     const std::string shown = line == std::string::npos ? what : what.substr(0, line) + " …";
     gtk_text_buffer_insert(buffer_, &end, ("\t" + shown).c_str(), -1);
     if (view_) gtk_text_view_scroll_mark_onscreen(GTK_TEXT_VIEW(view_), end_);
+    refresh_soon();
 }
 
 GtkWidget* demo::callback_log::view_new() {
@@ -52,7 +56,9 @@ GtkWidget* demo::callback_log::view_new() {
     gtk_text_view_set_top_margin(text, 8);
     gtk_text_view_set_bottom_margin(text, 8);
     gtk_text_view_set_pixels_above_lines(text, 2);
-    PangoTabArray* tabs = pango_tab_array_new_with_positions(1, TRUE, PANGO_TAB_LEFT, 86);
+    gtk_text_view_set_wrap_mode(text, GTK_WRAP_WORD_CHAR);
+    gtk_text_view_set_indent(text, -names);
+    PangoTabArray* tabs = pango_tab_array_new_with_positions(1, TRUE, PANGO_TAB_LEFT, names);
     gtk_text_view_set_tabs(text, tabs);
     pango_tab_array_free(tabs);
     g_signal_connect_after(view, "size-allocate",
@@ -62,7 +68,7 @@ GtkWidget* demo::callback_log::view_new() {
                            end_);
     GtkWidget* scroll = gtk_scrolled_window_new(nullptr, nullptr);
     gtk_scrolled_window_set_shadow_type(GTK_SCROLLED_WINDOW(scroll), GTK_SHADOW_IN);
-    gtk_scrolled_window_set_policy(GTK_SCROLLED_WINDOW(scroll), GTK_POLICY_AUTOMATIC, GTK_POLICY_AUTOMATIC);
+    gtk_scrolled_window_set_policy(GTK_SCROLLED_WINDOW(scroll), GTK_POLICY_NEVER, GTK_POLICY_AUTOMATIC);
     gtk_scrolled_window_set_overlay_scrolling(GTK_SCROLLED_WINDOW(scroll), FALSE);
     gtk_widget_set_direction(scroll, GTK_TEXT_DIR_LTR);
     gtk_container_add(GTK_CONTAINER(scroll), view);

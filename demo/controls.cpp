@@ -6,6 +6,7 @@
 #include <zo_ui/zo_ui.hpp>
 
 #include <memory>
+#include <utility>
 
 namespace {
 
@@ -24,6 +25,12 @@ void tick(const std::shared_ptr<ticker>& running) {
     running->refresh();
     running->timeout =
         zo_system_service_timeout([running] { tick(running); }, running->milliseconds, "demo", __LINE__);
+}
+
+// Those whose widgets live. Never destroyed: widgets may outlive main.
+std::vector<std::shared_ptr<ticker>>& tickers() {
+    static auto& all = *new std::vector<std::shared_ptr<ticker>>;
+    return all;
 }
 
 GtkWidget* value_label_new() {
@@ -181,8 +188,22 @@ void demo::keep_fresh(GtkWidget* widget, unsigned long milliseconds, std::functi
     running->refresh = std::move(refresh);
     zo_ui_connect_widget_destroy(widget, [running] {
         running->alive = false;
+        std::erase(tickers(), running);
         zo_system_service_timeout_clear(running->timeout);
         running->refresh = nullptr;
     });
+    tickers().push_back(running);
     tick(running);
+}
+
+void demo::refresh_soon() {
+    static bool posted = false;
+    if (std::exchange(posted, true)) return;
+    zo_system_service_exec(
+        [] {
+            posted = false;
+            for (const std::shared_ptr<ticker>& each : std::vector(tickers()))
+                if (each->alive) each->refresh();
+        },
+        "demo", __LINE__);
 }

@@ -52,8 +52,11 @@ struct fact {
     std::function<std::string()> value;
 };
 
-// A table of facts that is read again twice a second as long as it lives.
+// A table of facts that is read again twice a second as long as it lives, and by refresh_soon().
 GtkWidget* facts_new(std::vector<fact> facts);
+
+// Posts a refresh of everything that keep_fresh() keeps; one task for many calls.
+void refresh_soon();
 
 // Calls `refresh` now and then every `milliseconds` as long as the widget lives.
 void keep_fresh(GtkWidget* widget, unsigned long milliseconds, std::function<void()> refresh);

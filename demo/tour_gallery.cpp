@@ -73,13 +73,22 @@ void counting(visit& v) {
 }
 
 void slots(visit& v) {
-    click(on_page("add-left"));
-    expect("the panel has the widget",
-           [] { return has_button_labelled(window_of_class("zo-manager"), demo::_("At the start")); });
-    zo_window_manager_extend(v.shop.panel);
-    v.picture("widget-added-to-the-panel");
-    click(button_labelled(window_of_class("zo-manager"), demo::_("At the start")));
-    v.expect_logged("panel", "removed at the left");
+    for (const std::string side : {"add-left", "add-right"}) {
+        click(on_page(side));
+        v.expect_logged("panel", side + ": added");
+    }
+    GtkWidget* panel = window_of_class("zo-manager");
+    expect("both are on the panel", [&] {
+        GtkWidget* added = descendant_named(panel, "remove-add-right");
+        return added && is_on_screen(added) && place_of(panel).y == 0;
+    });
+    v.picture("widgets-added-to-the-panel");
+    for (const std::string side : {"add-left", "add-right"}) {
+        const std::string name = "remove-" + side;
+        click(widget_named(panel, name));
+        v.expect_logged("panel", side + ": removed");
+        if (descendant_named(panel, name)) throw failed_step("it is gone: " + name);
+    }
     zo_window_manager_retract(v.shop.panel);
 }
 

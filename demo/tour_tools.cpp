@@ -144,10 +144,6 @@ GtkWidget* button_labelled(GtkWidget* root, const std::string& label) {
 
 GtkWidget* descendant_named(GtkWidget* root, const std::string& name) { return find(root, of_name(name)); }
 
-bool has_button_labelled(GtkWidget* root, const std::string& label) {
-    return find(root, of_label(label)) != nullptr;
-}
-
 bool is_on_screen(GtkWidget* widget) {
     GdkWindow* window = gtk_widget_get_mapped(widget) ? gtk_widget_get_window(widget) : nullptr;
     if (!window || !gdk_window_is_viewable(window)) return false;

@@ -30,7 +30,6 @@ GtkWidget* widget_named(GtkWidget* root, const std::string& name);
 GtkWidget* button_labelled(GtkWidget* root, const std::string& label);
 // The same, null or false when there is none.
 GtkWidget* descendant_named(GtkWidget* root, const std::string& name);
-bool has_button_labelled(GtkWidget* root, const std::string& label);
 bool is_open(const std::string& id);
 bool has_window_of_class(const std::string& style_class);
 bool is_on_screen(GtkWidget* widget);

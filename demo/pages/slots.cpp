@@ -10,28 +10,38 @@ using demo::N_;
 namespace {
 
 // begin: slots
-// A widget at the left or right of the panel's row, and its way out
+// Widgets at the left and right of the panel's row. A box is taken out
 // again.
-void add_left(demo::workshop& shop) {
-    GtkWidget* button = zo_ui_button_new_with_label(_("At the start"));
-    zo_window_manager_add_widget_left(shop.panel, button);
-    zo_ui_connect_button_click_signal(
-        button, [&shop](GtkWidget* clicked) {
-            zo_window_manager_remove_widget_left(shop.panel, clicked);
-            shop.log.add("panel", "removed at the left");
-        });
-    gtk_widget_show(button);
-}
+struct slot {
+    const char* name;
+    const char* label;
+    bool (*add)(zo_window_manager_ptr, GtkWidget*);
+    bool (*remove)(zo_window_manager_ptr, GtkWidget*);
+};
+constexpr slot slots[] = {
+    {"add-left", N_("At the start"), zo_window_manager_add_widget_left,
+     zo_window_manager_remove_widget_left},
+    {"add-right", N_("At the end"), zo_window_manager_add_widget_right,
+     zo_window_manager_remove_widget_right},
+};
 
-void add_right(demo::workshop& shop) {
-    GtkWidget* button = zo_ui_button_new_with_label(_("At the end"));
-    zo_window_manager_add_widget_right(shop.panel, button);
-    zo_ui_connect_button_click_signal(
-        button, [&shop](GtkWidget* clicked) {
-            zo_window_manager_remove_widget_right(shop.panel, clicked);
-            shop.log.add("panel", "removed at the right");
-        });
-    gtk_widget_show(button);
+void fill_slot(demo::workshop& shop, const slot& place) {
+    GtkWidget* box = gtk_box_new(GTK_ORIENTATION_HORIZONTAL, 0);
+    GtkWidget* button = zo_ui_button_new_with_label(_("Remove me"));
+    gtk_widget_set_name(button,
+                        (std::string("remove-") + place.name).c_str());
+    gtk_container_add(GTK_CONTAINER(box), button);
+    zo_ui_connect_button_click_signal(button, [&shop, &place,
+                                               box](GtkWidget*) {
+        const bool removed = place.remove(shop.panel, box);
+        shop.log.add("panel", std::string(place.name) +
+                                  (removed ? ": removed" : ": refused"));
+    });
+    const bool added = place.add(shop.panel, box);
+    gtk_widget_show_all(box);
+    shop.log.add("panel", std::string(place.name) +
+                              (added ? ": added" : ": refused"));
+    zo_window_manager_extend(shop.panel);
 }
 
 // A window is a task of the panel that it has joined.
@@ -72,15 +82,16 @@ GtkBox* toolbar_new(demo::workshop& shop) {
 
 void fill(demo::workshop& shop, GtkWidget* controls) {
     demo::append(controls,
-                 demo::buttons_new({{"add-left", _("Add at the start"),
-                                     [&shop] { add_left(shop); }},
-                                    {"add-right", _("Add at the end"),
-                                     [&shop] { add_right(shop); }}},
-                                   2));
+                 demo::heading_new(_("Add a widget to the row")));
+    std::vector<demo::button_text> places;
+    for (const slot& place : slots)
+        places.push_back({place.name, _(place.label),
+                          [&shop, &place] { fill_slot(shop, place); }});
+    demo::append(controls, demo::buttons_new(places, 2));
     demo::append(
         controls,
-        demo::note_new(
-            _("The new button takes itself away when it is clicked.")));
+        demo::note_new(_(
+            "The panel shows it, and clicking it takes it away again.")));
     demo::append(controls,
                  demo::toggle_new(
                      "toolbar", _("Toolbar under the row"), shop.toolbar,
