@@ -22,7 +22,7 @@ struct kind {
 // In the order of precedence: what an earlier pattern matched is left alone by the later ones.
 constexpr kind kinds[] = {
     {"comment", "zo_fg_dim", R"(//[^\n]*)"},
-    {"string", "zo_danger", R"re("(\\.|[^"\\])*")re"},
+    {"string", "zo_focus", R"re("(\\.|[^"\\])*")re"},
     {"interface", "zo_accent", R"(\b(zo_\w+|getActive\w+|setActive\w+))"},
     {"keyword", "zo_link_visited",
      R"(\b(const|constexpr|auto|struct|return|if|else|for|while|void|bool|int|true|false|nullptr|using)\b)"},

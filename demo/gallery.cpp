@@ -41,7 +41,7 @@ GtkWidget* header_of(const demo::page& page) {
 GtkWidget* controls_of(demo::workshop& shop, const demo::page& page) {
     GtkWidget* controls = gtk_box_new(GTK_ORIENTATION_VERTICAL, 8);
     gtk_widget_set_name(controls, "controls");
-    gtk_widget_set_margin_end(controls, 14);  // beside the scroll bar
+    demo::add_class(controls, "gallery-controls");
     page.fill(shop, controls);
     GtkWidget* scroll = gtk_scrolled_window_new(nullptr, nullptr);
     gtk_scrolled_window_set_policy(GTK_SCROLLED_WINDOW(scroll), GTK_POLICY_NEVER, GTK_POLICY_AUTOMATIC);
@@ -140,8 +140,7 @@ GtkWidget* page_new(parts& p) {
 
 void build_content(parts& p, const zo_window_ptr& window) {
     GtkWidget* body = gtk_box_new(GTK_ORIENTATION_HORIZONTAL, 0);
-    gtk_widget_set_size_request(body, std::min(1280, zo_ui_workarea_width() - 50),
-                                std::min(720, zo_ui_workarea_height() - 100));
+    gtk_widget_set_size_request(body, demo::gallery_width(), std::min(720, zo_ui_workarea_height() - 100));
     GtkWidget* sidebar = sidebar_new(p);
     gtk_box_pack_start(GTK_BOX(body), sidebar, FALSE, FALSE, 0);
     gtk_box_pack_start(GTK_BOX(body), page_new(p), TRUE, TRUE, 0);
@@ -161,6 +160,8 @@ void load_sheet() {
 }
 
 }  // namespace
+
+int demo::gallery_width() { return std::min(1280, zo_ui_workarea_width() - 48); }
 
 void demo::make_gallery_window(workshop& shop) {
     load_sheet();

@@ -3,6 +3,7 @@
 
 #include "tray.hpp"
 
+#include <algorithm>
 #include <utility>
 
 namespace {
@@ -19,9 +20,18 @@ place place_of(const demo::workshop& shop, const zo_window_ptr& window) {
     return {0.02, 0.065};
 }
 
+// A wide screen has room beside the gallery for the notifications of the process.
+int left_of_gallery() {
+    constexpr int beside_notifications = 560;
+    constexpr int margin = 24;
+    return std::min(beside_notifications, zo_ui_workarea_width() - demo::gallery_width() - margin);
+}
+
 void move_to_place(const demo::workshop& shop, const zo_window_ptr& window) {
     const place wanted = place_of(shop, window);
-    zo_window_move(window, zo_ui_workarea_x() + static_cast<int>(wanted.x * zo_ui_workarea_width()),
+    const int x =
+        window == shop.gallery ? left_of_gallery() : static_cast<int>(wanted.x * zo_ui_workarea_width());
+    zo_window_move(window, zo_ui_workarea_x() + x,
                    zo_ui_workarea_y() + static_cast<int>(wanted.y * zo_ui_workarea_height()));
 }
 

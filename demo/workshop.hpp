@@ -45,6 +45,9 @@ void make_gallery_window(workshop& shop);
 void make_notes_window(workshop& shop);
 void make_studio_window(workshop& shop);
 
+// How wide the gallery is on this screen.
+int gallery_width();
+
 // Logs what the library reports of the window.
 void log_life_cycle(workshop& shop, const zo_window_ptr& window, const std::string& name);
 

@@ -16,8 +16,7 @@ struct operation {
     bool (*run)(zo_window_ptr);
 };
 
-// Each is posted to the loop; one that does not fit the window's state is
-// ignored.
+// Each is posted to the loop; what does not fit the state is ignored.
 constexpr operation operations[] = {
     {"open", N_("Open"), zo_window_open},
     {"show", N_("Show"), zo_window_show},

@@ -10,8 +10,7 @@ using demo::N_;
 namespace {
 
 // begin: slots
-// Widgets at the left and right of the panel's row. A box is taken out
-// again.
+// Widgets at both ends of the panel's row; a box is taken out again.
 struct slot {
     const char* name;
     const char* label;

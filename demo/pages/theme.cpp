@@ -13,8 +13,7 @@ using demo::N_;
 namespace {
 
 // begin: theme
-// One sheet for everything the library builds; open windows change at
-// once.
+// One sheet for everything the library builds; open windows follow.
 void use_theme(demo::workshop& shop, const demo::theme_place& theme) {
     GError* error = nullptr;
     zo_theme_set_theme_path(theme.path);

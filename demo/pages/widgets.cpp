@@ -10,8 +10,7 @@ using demo::N_;
 namespace {
 
 // begin: widgets
-// Square buttons of 16, 24 and 32 pixels; the theme gives a style class
-// its icon.
+// Square buttons of three sizes; the theme gives a class its icon.
 using maker = GtkWidget* (*)(std::string);
 constexpr maker sizes[] = {zo_ui_button16_new, zo_ui_button24_new,
                            zo_ui_button32_new};
