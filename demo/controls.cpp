@@ -44,6 +44,12 @@ GtkWidget* value_label_new() {
     return label;
 }
 
+void wrap_label(GtkWidget* child) {
+    if (!GTK_IS_LABEL(child)) return;
+    gtk_label_set_line_wrap(GTK_LABEL(child), TRUE);
+    gtk_label_set_justify(GTK_LABEL(child), GTK_JUSTIFY_CENTER);
+}
+
 }  // namespace
 
 void demo::add_class(GtkWidget* widget, const char* style_class) {
@@ -87,6 +93,7 @@ GtkWidget* demo::buttons_new(const std::vector<button_text>& buttons, int column
         GtkWidget* button = zo_ui_button_new_with_label(entry.label);
         gtk_widget_set_name(button, entry.name);
         gtk_widget_set_hexpand(button, TRUE);
+        wrap_label(gtk_bin_get_child(GTK_BIN(button)));
         zo_ui_connect_button_click_signal(button, [pressed = entry.pressed](GtkWidget*) { pressed(); });
         gtk_grid_attach(GTK_GRID(grid), button, i % columns, i / columns, 1, 1);
         ++i;

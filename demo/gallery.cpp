@@ -44,7 +44,8 @@ GtkWidget* controls_of(demo::workshop& shop, const demo::page& page) {
     demo::add_class(controls, "gallery-controls");
     page.fill(shop, controls);
     GtkWidget* scroll = gtk_scrolled_window_new(nullptr, nullptr);
-    gtk_scrolled_window_set_policy(GTK_SCROLLED_WINDOW(scroll), GTK_POLICY_NEVER, GTK_POLICY_AUTOMATIC);
+    // External: long texts wrap instead of widening the column, which is the same on every page.
+    gtk_scrolled_window_set_policy(GTK_SCROLLED_WINDOW(scroll), GTK_POLICY_EXTERNAL, GTK_POLICY_AUTOMATIC);
     gtk_scrolled_window_set_overlay_scrolling(GTK_SCROLLED_WINDOW(scroll), FALSE);
     gtk_widget_set_size_request(scroll, controls_width, -1);
     gtk_widget_set_hexpand(scroll, FALSE);  // what expands inside shares this width

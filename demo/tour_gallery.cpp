@@ -119,11 +119,17 @@ constexpr deed deeds[] = {
 }  // namespace
 
 void demo::tour::open_page(const std::string& id) {
+    const auto frame = [] {
+        return gdk_frame_clock_get_frame_counter(gtk_widget_get_frame_clock(gallery()));
+    };
     click(widget_named(widget_named(gallery(), "pages"), id));
-    expect("the page " + id + " is shown", [&] {
-        GtkWidget* page = descendant_named(gallery(), "page-" + id);
-        return page && is_on_screen(page);
-    });
+    expect("the page " + id + " is chosen",
+           [&] { return descendant_named(gallery(), "page-" + id) != nullptr; });
+    // Its widgets have their places when a frame has been drawn with them.
+    const gint64 before = frame();
+    gtk_widget_queue_draw(gallery());
+    expect("the page " + id + " is shown",
+           [&] { return frame() > before && is_on_screen(on_page("controls")); });
 }
 
 GtkWidget* demo::tour::on_page(const std::string& name) { return widget_named(gallery(), name); }

@@ -40,7 +40,10 @@ bool is_up(const std::string& title) {
 
 void press(const char* name) { click(on_page(name)); }
 
-// The gallery makes room for the notifications of the process, which stand at the left, and goes back.
+bool turned() { return gtk_widget_get_default_direction() == GTK_TEXT_DIR_RTL; }
+
+// The gallery is dragged aside while notifications stand over its controls, which are at the left or, right
+// to left, at the right; and back again.
 void move_gallery(int dx) {
     GtkWidget* gallery = window_named("gallery");
     const place before = place_of(gallery);
@@ -100,7 +103,7 @@ void message_stack(visit& v) {
     summon(v.shop, v.shop.gallery);
     expect("the gallery is on screen", [] { return is_on_screen(window_named("gallery")); });
     open_page("notifications");
-    move_gallery(room);
+    if (!turned()) move_gallery(room);
     for (const char* name : {"backup", "broken", "invitation", "arabic"}) press(name);
     expect_stack("the notifications stand below one another",
                  {_("Backup finished"), _("Not markup"), _("Message from Ana"), "رسالة جديدة"}, 50);
@@ -128,10 +131,11 @@ void link_action_and_timeout(visit& v) {
     expect("they stay again", [&] { return !v.shop.messages_leave; });
     press("close-all");
     expect("all are closed", [] { return popups().empty(); });
-    move_gallery(-room);
+    if (!turned()) move_gallery(-room);
 }
 
 void messages_of_the_panel(visit& v) {
+    if (turned()) move_gallery(-room);
     press("on-panel");
     expect("they go to the panel", [&] { return v.shop.messages_on_panel; });
     const int x = zo_ui_screen_width() - 570;
@@ -150,6 +154,7 @@ void messages_of_the_panel(visit& v) {
     expect("all of the panel's are closed", [] { return popups().empty(); });
     press("on-panel");
     expect("they leave the panel", [&] { return !v.shop.messages_on_panel; });
+    if (turned()) move_gallery(room);
 }
 
 }  // namespace demo::tour

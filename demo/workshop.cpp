@@ -13,10 +13,12 @@ struct place {
     double y;
 };
 
-// The samples stand at the right, over the gallery's code: its controls stay within reach.
+// The samples stand over the gallery's code, at the right or, right to left, at the left: its controls stay
+// within reach.
 place place_of(const demo::workshop& shop, const zo_window_ptr& window) {
-    if (window == shop.notes) return {0.62, 0.08};
-    if (window == shop.studio) return {0.58, 0.5};
+    const bool turned = gtk_widget_get_default_direction() == GTK_TEXT_DIR_RTL;
+    if (window == shop.notes) return {turned ? 0.09 : 0.62, 0.08};
+    if (window == shop.studio) return {turned ? 0.13 : 0.58, 0.5};
     return {0.02, 0.065};
 }
 

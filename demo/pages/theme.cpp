@@ -32,9 +32,11 @@ void follow_folder(demo::workshop& shop, GtkWidget* page,
     g_object_unref(watched);
     if (!monitor) return;
     const auto on_change =
-        +[](GFileMonitor*, GFile*, GFile*, GFileMonitorEvent event,
+        +[](GFileMonitor*, GFile* file, GFile*, GFileMonitorEvent event,
             demo::workshop* s) {
-            if (event == G_FILE_MONITOR_EVENT_CHANGES_DONE_HINT)
+            const std::string name = g_file_peek_path(file);
+            if (event == G_FILE_MONITOR_EVENT_CHANGES_DONE_HINT &&
+                name.ends_with(".css"))
                 use_theme(*s, {zo_theme_get_theme_path(),
                                zo_theme_get_theme_name()});
         };
