@@ -43,15 +43,18 @@ void press(const char* name) { click(on_page(name)); }
 bool turned() { return gtk_widget_get_default_direction() == GTK_TEXT_DIR_RTL; }
 
 // The gallery is dragged aside while notifications stand over its controls, which are at the left or, right
-// to left, at the right; and back again.
-void move_gallery(int dx) {
+// to left, at the right; and back again. To a place, not by a distance: a window manager may bring a window
+// back on the screen that was shown again beyond its edge.
+void drag_gallery_to(const place& wanted) {
     GtkWidget* gallery = window_named("gallery");
-    const place before = place_of(gallery);
-    const int way = dx * gtk_widget_get_scale_factor(gallery);
-    drag(widget_of_class(gallery, "title-text"), way, 0);
-    expect("the gallery was dragged aside", [&] {
-        return place_of(gallery) == place{before.x + way, before.y};
-    });
+    const place now = place_of(gallery);
+    if (now == wanted) return;
+    drag(widget_of_class(gallery, "title-text"), wanted.x - now.x, wanted.y - now.y);
+    expect("the gallery was dragged", [&] { return place_of(gallery) == wanted; });
+}
+
+place beside(const place& home, int room) {
+    return {home.x + room * gtk_widget_get_scale_factor(window_named("gallery")), home.y};
 }
 
 // Each stands below the one before, the first of them at the top.
@@ -103,7 +106,8 @@ void message_stack(visit& v) {
     summon(v.shop, v.shop.gallery);
     expect("the gallery is on screen", [] { return is_on_screen(window_named("gallery")); });
     open_page("notifications");
-    if (!turned()) move_gallery(room);
+    const place home = v.gallery_home = place_of(window_named("gallery"));
+    if (!turned()) drag_gallery_to(beside(home, room));
     for (const char* name : {"backup", "broken", "invitation", "arabic"}) press(name);
     expect_stack("the notifications stand below one another",
                  {_("Backup finished"), _("Not markup"), _("Message from Ana"), "رسالة جديدة"}, 50);
@@ -131,11 +135,11 @@ void link_action_and_timeout(visit& v) {
     expect("they stay again", [&] { return !v.shop.messages_leave; });
     press("close-all");
     expect("all are closed", [] { return popups().empty(); });
-    if (!turned()) move_gallery(-room);
+    drag_gallery_to(v.gallery_home);
 }
 
 void messages_of_the_panel(visit& v) {
-    if (turned()) move_gallery(-room);
+    if (turned()) drag_gallery_to(beside(v.gallery_home, -room));
     press("on-panel");
     expect("they go to the panel", [&] { return v.shop.messages_on_panel; });
     const int x = zo_ui_screen_width() - 570;
@@ -154,7 +158,7 @@ void messages_of_the_panel(visit& v) {
     expect("all of the panel's are closed", [] { return popups().empty(); });
     press("on-panel");
     expect("they leave the panel", [&] { return !v.shop.messages_on_panel; });
-    if (turned()) move_gallery(room);
+    drag_gallery_to(v.gallery_home);
 }
 
 }  // namespace demo::tour

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "tour_tools.hpp"
 #include "workshop.hpp"
 
 #include <string>
@@ -12,6 +13,7 @@ struct visit {
     workshop& shop;
     std::string folder;
     int pictures = 0;
+    place gallery_home{};  // where the gallery stands while no notification is over its controls
 
     // Writes the next numbered screenshot and prints its path.
     void picture(const std::string& name);
