@@ -23,6 +23,9 @@ const std::vector<message>& messages();
 // Raises one on the stack, and with the timeout, that their page is set to.
 void raise_message(workshop& shop, const message& kind);
 
+// Raises one with a title and a text of the user's.
+void raise_own_message(workshop& shop, const std::string& title, const std::string& content);
+
 void close_messages(workshop& shop);
 
 }  // namespace demo

@@ -17,4 +17,6 @@ void demo::bind_texts() {
     bind_textdomain_codeset(domain, "UTF-8");
 }
 
-const char* demo::_(const char* text) { return g_dgettext(domain, text); }
+const char* demo::_(const char* text) {
+    return *text ? g_dgettext(domain, text) : text;  // gettext answers "" with the catalogue's head
+}

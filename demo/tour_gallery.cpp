@@ -44,6 +44,8 @@ void themes(visit& v) {
         v.picture("gallery-in-" + theme.name);
         choose(first);
     }
+    click(on_page("add-sheet"));
+    v.expect_logged("theme", "added: titles.css");
     saved_sheet(v, zo_theme_get_theme_path() + first + "/style.css");
     const GtkTextDirection reading = gtk_widget_get_default_direction();
     click(on_page("right-to-left"));
@@ -72,6 +74,24 @@ void sized_buttons(visit& v) {
 void active_facts(visit&) {
     GtkWidget* facts = widget_of_class(on_page("controls"), "gallery-facts");
     expect("the active window is the gallery", [&] { return value_beside(facts, 0) == demo::_("Gallery"); });
+}
+
+void ticking(visit& v) {
+    GtkWidget* facts = widget_of_class(on_page("controls"), "gallery-facts");
+    click(on_page("fps-30"));
+    v.expect_logged("redraws", "a ticker of 30");
+    const std::string before = value_beside(facts, 0);
+    expect("frames are drawn", [&] { return std::stoi(value_beside(facts, 0)) > std::stoi(before) + 10; });
+}
+
+void own_notification(visit& v) {
+    click(on_page("own-title"));
+    type("Hello");
+    click(on_page("raise-own"));
+    v.expect_logged("messages", "raised: own");
+    v.picture("notification-of-ones-own");
+    click(on_page("close-all"));
+    v.expect_logged("messages", "closed: own");
 }
 
 void posting(visit& v) {
@@ -112,8 +132,10 @@ struct deed {
     void (*act)(visit&);
 };
 constexpr deed deeds[] = {
-    {"theme", themes},    {"widgets", sized_buttons}, {"desktop", active_facts},
-    {"threads", posting}, {"inside", counting},       {"slots", slots},
+    {"theme", themes},         {"widgets", sized_buttons},
+    {"desktop", active_facts}, {"threads", posting},
+    {"inside", counting},      {"slots", slots},
+    {"redraws", ticking},      {"notifications", own_notification},
 };
 
 }  // namespace

@@ -94,6 +94,11 @@ void demo::raise_message(workshop& shop, const message& kind) {
 }
 // end: notifications
 
+void demo::raise_own_message(workshop& shop, const std::string& title,
+                             const std::string& content) {
+    raise_message(shop, {"own", "", title.c_str(), content.c_str(), {}});
+}
+
 void demo::close_messages(workshop& shop) {
     for (const zo_notification_ptr& notification : shop.raised)
         zo_notification_destroy(notification);

@@ -11,6 +11,35 @@ using demo::N_;
 
 namespace {
 
+void add_own(demo::workshop& shop, GtkWidget* controls) {
+    struct own {
+        std::string title = _("Your own");
+        std::string content = _("With <b>markup</b>, if you like.");
+    };
+    const auto texts = std::make_shared<own>();
+    demo::append(controls, demo::heading_new(_("One of your own")));
+    demo::append(controls,
+                 demo::row_new(_("Title"),
+                               demo::entry_new("own-title", texts->title,
+                                               [texts](auto text) {
+                                                   texts->title = text;
+                                               })));
+    demo::append(controls,
+                 demo::row_new(_("Text"),
+                               demo::entry_new("own-text", texts->content,
+                                               [texts](auto text) {
+                                                   texts->content = text;
+                                               })));
+    demo::append(controls,
+                 demo::buttons_new({{"raise-own", _("Raise it"),
+                                     [&shop, texts] {
+                                         demo::raise_own_message(
+                                             shop, texts->title,
+                                             texts->content);
+                                     }}},
+                                   1));
+}
+
 void fill(demo::workshop& shop, GtkWidget* controls) {
     std::vector<demo::button_text> kinds;
     for (const demo::message& kind : demo::messages())
@@ -40,6 +69,7 @@ void fill(demo::workshop& shop, GtkWidget* controls) {
         demo::buttons_new({{"close-all", _("Close all"),
                             [&shop] { demo::close_messages(shop); }}},
                           1));
+    add_own(shop, controls);
     demo::append(controls,
                  demo::note_new(_("A text that is not markup is shown as "
                                   "it is. An action closes its "

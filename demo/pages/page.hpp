@@ -23,8 +23,8 @@ struct page {
 extern const page life_cycle_page, flags_page, contents_page,
     title_bar_page;
 extern const page panel_page, slots_page, notifications_page, tray_page;
-extern const page theme_page, widgets_page, desktop_page, threads_page,
-    inside_page;
+extern const page theme_page, widgets_page, redraws_page, languages_page;
+extern const page desktop_page, threads_page, inside_page;
 
 // All of them, in the order of the sidebar.
 std::span<const page* const> pages();

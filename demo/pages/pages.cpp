@@ -11,8 +11,8 @@ std::span<const demo::page* const> demo::pages() {
         &life_cycle_page,    &flags_page,   &contents_page,
         &title_bar_page,     &panel_page,   &slots_page,
         &notifications_page, &tray_page,    &theme_page,
-        &widgets_page,       &desktop_page, &threads_page,
-        &inside_page,
+        &widgets_page,       &redraws_page, &languages_page,
+        &desktop_page,       &threads_page, &inside_page,
     };
     return all;
 }

@@ -44,7 +44,30 @@ void follow_folder(demo::workshop& shop, GtkWidget* page,
     zo_ui_connect_widget_destroy(page,
                                  [monitor] { g_object_unref(monitor); });
 }
+
+// A sheet of the application's own, which stays whatever theme is chosen.
+void add_sheet(demo::workshop& shop, const std::string& folder,
+               const std::string& file) {
+    GError* error = nullptr;
+    const std::string themes = zo_theme_get_theme_path();
+    zo_theme_set_theme_path(folder);
+    zo_theme_add_css_permanent(file, error);
+    zo_theme_set_theme_path(themes);
+    shop.log.add("theme", error ? error->message : "added: " + file);
+    g_clear_error(&error);
+}
 // end: theme
+
+void write_and_add_sheet(demo::workshop& shop) {
+    const std::string folder =
+        std::string(g_get_user_cache_dir()) + "/zo-demo/";
+    const std::string file = "titles.css";
+    g_mkdir_with_parents(folder.c_str(), 0700);
+    g_file_set_contents((folder + file).c_str(),
+                        ".zo-window .title-text { font-style: italic; }",
+                        -1, nullptr);
+    add_sheet(shop, folder, file);
+}
 
 constexpr const char* palette[] = {
     "zo_bg",       "zo_raised",     "zo_sunken", "zo_line",
@@ -126,6 +149,12 @@ void fill(demo::workshop& shop, GtkWidget* controls) {
         folders.insert({theme.path, theme.path + theme.name});
     for (const std::string& folder : folders)
         follow_folder(shop, controls, folder);
+    demo::append(
+        controls,
+        demo::buttons_new(
+            {{"add-sheet", _("Add a sheet that stays: italic titles"),
+              [&shop] { write_and_add_sheet(shop); }}},
+            1));
     demo::append(controls, demo::heading_new(_("Its colours")));
     demo::append(controls, palette_new());
     demo::append(controls,
