@@ -15,4 +15,7 @@ GtkWidget* on_page(const std::string& name);
 // not happen.
 void gallery_pages(visit& v);
 
+// Adds a sheet for good: near the end, since every later picture shows it.
+void sheet_that_stays(visit& v);
+
 }  // namespace demo::tour

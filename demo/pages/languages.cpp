@@ -25,16 +25,14 @@ constexpr const char* keys[] = {"tooltip_back",
                                 "tooltip_close_notification",
                                 "toolbar-unlocked"};
 
-GtkWidget* texts_new() {
-    GtkWidget* list = gtk_box_new(GTK_ORIENTATION_VERTICAL, 6);
-    for (const char* key : keys) {
-        demo::append(list,
-                     demo::text_label("<tt><small>" + std::string(key) +
-                                      "</small></tt>"));
-        demo::append(list,
-                     demo::note_new(zo_ui_get_translate(key).c_str()));
-    }
-    return list;
+void add_text(GtkWidget* list, const char* key) {
+    GtkWidget* text = demo::note_new(zo_ui_get_translate(key).c_str());
+    gtk_style_context_remove_class(gtk_widget_get_style_context(text),
+                                   "dim-label");
+    demo::append(list, text);
+    GtkWidget* name = demo::text_label(key);
+    demo::add_class(name, "gallery-key");
+    demo::append(list, name);
 }
 // end: languages
 
@@ -56,7 +54,11 @@ void fill(demo::workshop&, GtkWidget* controls) {
                                          : _("left to right");
                           }}}));
     demo::append(controls, demo::heading_new(_("Texts of the library")));
-    demo::append(controls, texts_new());
+    for (const char* key : keys) {
+        GtkWidget* pair = gtk_box_new(GTK_ORIENTATION_VERTICAL, 0);
+        add_text(pair, key);
+        demo::append(controls, pair);
+    }
 }
 
 }  // namespace

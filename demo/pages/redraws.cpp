@@ -31,6 +31,7 @@ GtkWidget* pendulum_new(const std::shared_ptr<int>& frames) {
         gtk_style_context_get_color(gtk_widget_get_style_context(widget),
                                     GTK_STATE_FLAG_NORMAL, &colour);
         gdk_cairo_set_source_rgba(cairo, &colour);
+        cairo_set_line_width(cairo, 3);
         cairo_move_to(cairo, width / 2, height * 0.08);
         cairo_line_to(cairo, x, y);
         cairo_stroke(cairo);
@@ -54,7 +55,10 @@ void fill(demo::workshop& shop, GtkWidget* controls) {
     GtkWidget* canvas = pendulum_new(frames);
     gtk_widget_set_size_request(canvas, -1, 180);
     demo::add_class(canvas, "gallery-canvas");
-    demo::append(controls, canvas);
+    GtkWidget* card = gtk_box_new(GTK_ORIENTATION_VERTICAL, 0);
+    demo::add_class(card, "gallery-card");
+    demo::append(card, canvas);
+    demo::append(controls, card);
     demo::append(controls, demo::heading_new(
                                _("Start a ticker, redraws a second")));
     demo::append(
