@@ -139,13 +139,16 @@ GtkWidget* page_new(parts& p) {
     return p.page;
 }
 
-void build_content(parts& p, const zo_window_ptr& window) {
+// The widgets hold the parts: a destroyed window lets its callbacks go before them.
+void build_content(const std::shared_ptr<parts>& held, const zo_window_ptr& window) {
+    parts& p = *held;
     GtkWidget* body = gtk_box_new(GTK_ORIENTATION_HORIZONTAL, 0);
     gtk_widget_set_size_request(body, demo::gallery_width(), std::min(720, zo_ui_workarea_height() - 100));
     GtkWidget* sidebar = sidebar_new(p);
     gtk_box_pack_start(GTK_BOX(body), sidebar, FALSE, FALSE, 0);
     gtk_box_pack_start(GTK_BOX(body), page_new(p), TRUE, TRUE, 0);
-    zo_ui_connect_widget_destroy(body, [&p] { p.page = p.head = p.controls = p.code = nullptr; });
+    zo_ui_connect_widget_destroy(body,
+                                 [held] { held->page = held->head = held->controls = held->code = nullptr; });
     gtk_widget_show_all(body);
     zo_window_add_content_child(window, body, true, true, 0, false);
     select_page(sidebar, p.shop->page);
@@ -174,7 +177,7 @@ void demo::make_gallery_window(workshop& shop) {
     zo_window_set_skip_taskbar_hint(shop.gallery, false);
     log_life_cycle(shop, shop.gallery, "gallery");
     zo_window_set_window_open_callback(shop.gallery, [p](zo_window_ptr window) {
-        build_content(*p, window);
+        build_content(p, window);
         p->shop->log.add("gallery", "open");
     });
     zo_window_set_window_close_request_callback(shop.gallery, nullptr);

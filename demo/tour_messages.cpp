@@ -6,8 +6,6 @@
 #include "tour_gallery.hpp"
 #include "tour_tools.hpp"
 
-using demo::_;
-
 namespace {
 
 using namespace demo::tour;

@@ -5,8 +5,6 @@
 #include "tour_gallery.hpp"
 #include "tour_tools.hpp"
 
-using demo::_;
-
 namespace {
 
 using namespace demo::tour;

@@ -9,8 +9,6 @@
 
 #include <memory>
 
-using demo::_;
-
 namespace {
 
 using namespace demo::tour;

@@ -9,7 +9,6 @@
 #include <gdk/gdkx.h>
 
 using demo::_;
-using demo::N_;
 
 namespace {
 

@@ -8,7 +8,6 @@
 #include <sstream>
 
 using demo::_;
-using demo::N_;
 
 namespace {
 

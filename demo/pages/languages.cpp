@@ -7,7 +7,6 @@
 #include <clocale>
 
 using demo::_;
-using demo::N_;
 
 namespace {
 

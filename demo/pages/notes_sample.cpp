@@ -3,8 +3,6 @@
 #include "texts.hpp"
 #include "workshop.hpp"
 
-using demo::_;
-
 namespace {
 
 std::string text_of(GtkTextBuffer* buffer) {

@@ -5,9 +5,6 @@
 
 #include <algorithm>
 
-using demo::_;
-using demo::N_;
-
 namespace {
 
 constexpr int timeout = 2000;

@@ -7,7 +7,6 @@
 #include "texts.hpp"
 
 using demo::_;
-using demo::N_;
 
 namespace {
 

@@ -4,8 +4,6 @@
 #include "controls.hpp"
 #include "texts.hpp"
 
-using demo::_;
-
 std::span<const demo::page* const> demo::pages() {
     static constexpr const page* all[] = {
         &life_cycle_page,    &flags_page,   &contents_page,

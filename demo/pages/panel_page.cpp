@@ -5,7 +5,6 @@
 #include "texts.hpp"
 
 using demo::_;
-using demo::N_;
 
 namespace {
 

@@ -7,7 +7,6 @@
 #include <cmath>
 
 using demo::_;
-using demo::N_;
 
 namespace {
 

@@ -78,7 +78,11 @@ void redraw(studio& room) {
     if (room.canvas) gtk_widget_queue_draw(room.canvas);
 }
 
-void build_content(studio& room, const zo_window_ptr& window) {
+// The widgets hold the room: a destroyed window lets its callbacks go
+// before them.
+void build_content(const std::shared_ptr<studio>& held,
+                   const zo_window_ptr& window) {
+    studio& room = *held;
     room.canvas = gtk_drawing_area_new();
     gtk_widget_set_size_request(room.canvas, canvas_width, canvas_height);
     zo_ui_connect_on_draw_signal(
@@ -89,14 +93,14 @@ void build_content(studio& room, const zo_window_ptr& window) {
         _("Pick a tool from the menu in the title bar."));
     gtk_label_set_ellipsize(GTK_LABEL(room.status), PANGO_ELLIPSIZE_END);
     zo_ui_connect_widget_destroy(
-        room.canvas, [&room] { room.canvas = room.status = nullptr; });
+        room.canvas, [held] { held->canvas = held->status = nullptr; });
     zo_window_add_content_child(window, room.canvas, true, true, 0,
                                 false);
     zo_window_add_content_child(window, room.status, false, false, 10,
                                 false);
 }
 
-void fill_tool_menu(studio& room, GtkGrid* grid) {
+void fill_tool_menu(const std::shared_ptr<studio>& room, GtkGrid* grid) {
     struct tool {
         const char* name;
         const char* label;
@@ -118,12 +122,12 @@ void fill_tool_menu(studio& room, GtkGrid* grid) {
         gtk_widget_set_name(button, entry.name);
         gtk_widget_set_hexpand(button, TRUE);
         zo_ui_connect_button_click_signal(
-            button, [&room, &entry](GtkWidget*) {
-                entry.use(room);
-                redraw(room);
-                room.shop->log.add("studio",
-                                   std::string("menu: ") + entry.name);
-                say(room, _(entry.label));
+            button, [room, &entry](GtkWidget*) {
+                entry.use(*room);
+                redraw(*room);
+                room->shop->log.add("studio",
+                                    std::string("menu: ") + entry.name);
+                say(*room, _(entry.label));
             });
         gtk_grid_attach(grid, button, 0, row++, 1, 1);
     }
@@ -147,7 +151,7 @@ void connect_title_bar(const zo_window_ptr& window,
                        const std::shared_ptr<studio>& room) {
     zo_window_set_menu_create_handler(
         window, [room](zo_window_ptr, GtkGrid* grid) {
-            fill_tool_menu(*room, grid);
+            fill_tool_menu(room, grid);
         });
     zo_window_set_save_to_photo_handler(
         window, [room](zo_window_ptr, GdkPixbuf* photo) {
@@ -187,7 +191,7 @@ void demo::make_studio_window(workshop& shop) {
         enable(window, true);
     log_life_cycle(shop, window, "studio");
     zo_window_set_window_open_callback(window, [room](zo_window_ptr w) {
-        build_content(*room, w);
+        build_content(room, w);
         room->shop->log.add("studio", "open");
     });
     connect_title_bar(window, room);

@@ -8,7 +8,6 @@
 #include <set>
 
 using demo::_;
-using demo::N_;
 
 namespace {
 

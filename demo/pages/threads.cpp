@@ -7,7 +7,6 @@
 #include <chrono>
 
 using demo::_;
-using demo::N_;
 
 namespace {
 

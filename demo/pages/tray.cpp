@@ -6,9 +6,6 @@
 #include "notifications.hpp"
 #include "texts.hpp"
 
-using demo::_;
-using demo::N_;
-
 // begin: tray
 void demo::show_tray(workshop& shop) {
     if (shop.tray) return;

@@ -7,7 +7,6 @@
 #include "tray.hpp"
 
 using demo::_;
-using demo::N_;
 
 namespace {
 
