@@ -6,6 +6,7 @@ zo_library(zo_ui
     zo_ui/platform/linux/search.cpp
     zo_ui/platform/linux/steering.cpp
     zo_ui/platform/linux/window_facts.cpp
+    zo_ui/platform/linux/withdrawal.cpp
     zo_ui/platform/linux/x_errors.cpp
     zo_ui/toolkit/connect.cpp
     zo_ui/toolkit/layout_idle.cpp

@@ -48,6 +48,7 @@ void _zo_window::take_tree_down() {
     const zo::held_widget held[] = {zo::hold(tree.window), zo::hold(tree.tool_menu)};
     title_part_ = ads_part_ = content_part_ = {};
     fitting_.cancel();
+    withdrawal_.forget();
     asked_place_.reset();
     kept_above_ = was_hidden_ = placed_ = unmaximizing_ = centring_ = false;
     if (zo_system_service_done()) {

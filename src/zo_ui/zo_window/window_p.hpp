@@ -3,6 +3,7 @@
 #pragma once
 
 #include <zo_core/zo_property_access_p.hpp>
+#include <zo_ui/platform/linux/withdrawal_p.hpp>
 #include <zo_ui/toolkit/layout_idle_p.hpp>
 #include <zo_ui/toolkit/listener_list_p.hpp>
 #include <zo_ui/zo_window.hpp>
@@ -160,6 +161,7 @@ class _zo_window : public _zo_object {
     zo::window_part ads_part_;
     zo::window_part content_part_;
     zo::layout_idle fitting_;
+    zo::platform::withdrawal withdrawal_;
     bool popup_ = false;         // how the present tree was built
     bool managed_ = false;       // likewise
     bool kept_above_ = false;    // the present toplevel was told to stay above

@@ -45,7 +45,9 @@ void _zo_window::_show() {
     if (above) keep_above();
     if (fn) fn(handle());
     if (!still_in(window.get(), true)) return;
+    if (!popup_) withdrawal_.before_show(window.get());
     gtk_widget_show_all(window.get());
+    if (!popup_ && still_in(window.get(), true)) withdrawal_.after_show(window.get());
     if (still_in(window.get(), true) && widgets_.tool_menu) gtk_widget_show_all(widgets_.tool_menu);
     if (still_in(window.get(), true)) tell_manager(&zo::window_host::on_window_shown);
 }
@@ -74,6 +76,7 @@ void _zo_window::hide_in_place() {
     auto* window = GTK_WINDOW(widgets_.window);
     std::pair<int, int> place;
     gtk_window_get_position(window, &place.first, &place.second);
+    if (!popup_) withdrawal_.before_hide(widgets_.window);
     gtk_widget_hide(widgets_.window);
     const bool placed = std::exchange(placed_, false) || asked_place_;
     if (asked_place_) place = *std::exchange(asked_place_, std::nullopt);

@@ -189,7 +189,8 @@ void _zo_window::on_configured(const GdkEventConfigure& event) {
 // the window is back, it is asked for them again.
 void _zo_window::on_mapped() {
     placed_ = true;
-    if (!std::exchange(was_hidden_, false) || !widgets_.window) return;
+    if (!was_hidden_ || !widgets_.window) return;
+    was_hidden_ = !withdrawal_.is_settled();
     auto* window = GTK_WINDOW(widgets_.window);
     GdkWindow* native = gtk_widget_get_window(widgets_.window);
     if (kept_above_) gdk_window_set_keep_above(native, TRUE);

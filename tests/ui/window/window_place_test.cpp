@@ -129,6 +129,32 @@ TEST(WindowPlace, AMoveCountsThoughTheWindowManagerIsSlow) {
         << place_of(toplevel).first << "," << place_of(toplevel).second;
 }
 
+// It hears of everything at once, and is not waited for: what it loses is asked for again.
+TEST(WindowPlace, ComesBackThoughTheWindowManagerIsSlow) {
+    if (test::session_wm() == "none") return;
+    test::scoped_window window;
+    GtkWidget* toplevel = window.show();
+    test::settle_desktop();
+    for (int round = 0; round < 5; ++round) {
+        {
+            const halted_manager slow;
+            for (int pairs = 0; pairs < 2; ++pairs) {
+                zo_window_hide(window);
+                zo_window_show(window);
+            }
+            test::run_tasks();
+        }
+        test::settle_desktop();
+        const auto is_viewable = [&] {
+            const std::string facts = test::run_command({"xwininfo", "-id", test::x_window(toplevel)});
+            return facts.find("IsViewable") != std::string::npos;
+        };
+        ASSERT_TRUE(test::turn_until(is_viewable, std::chrono::seconds(5))) << "round " << round;
+        for (const char* hint : {"STATE_ABOVE", "STATE_SKIP_TASKBAR", "STATE_SKIP_PAGER"})
+            EXPECT_TRUE(test::x_property_becomes(toplevel, "_NET_WM_STATE", hint)) << hint;
+    }
+}
+
 // Where somebody else moved it since is where it comes back.
 TEST(WindowPlace, AnOlderMoveDoesNotCount) {
     test::scoped_window window;
