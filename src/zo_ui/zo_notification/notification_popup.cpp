@@ -10,6 +10,7 @@
 #include <zo_ui/zo_notification/notification_p.hpp>
 
 #include <zo_core/zo_diagnostics_p.hpp>
+#include <zo_ui/platform/linux/on_top_p.hpp>
 #include <zo_ui/toolkit/style_p.hpp>
 #include <zo_ui/zo_notification/notification_stack_p.hpp>
 #include <zo_ui/zo_ui_connect.hpp>
@@ -58,6 +59,7 @@ GtkWidget* toplevel_new(const std::string& title) {
     gtk_window_set_decorated(window, FALSE);
     gtk_window_set_resizable(window, FALSE);
     gtk_window_set_keep_above(window, TRUE);
+    zo::platform::keep_on_top(popup);
     return popup;
 }
 

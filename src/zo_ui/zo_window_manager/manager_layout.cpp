@@ -8,6 +8,7 @@
 //                                                            └─ ...
 #include <zo_ui/zo_window_manager/manager_p.hpp>
 
+#include <zo_ui/platform/linux/on_top_p.hpp>
 #include <zo_ui/toolkit/style_p.hpp>
 #include <zo_ui/zo_ui_connect.hpp>
 #include <zo_ui/zo_ui_screen.hpp>
@@ -60,6 +61,7 @@ void _zo_window_manager::build_panel_window() {
     gtk_window_set_decorated(panel, FALSE);
     gtk_window_set_resizable(panel, FALSE);
     gtk_window_set_keep_above(panel, TRUE);
+    zo::platform::keep_on_top(widgets_.window);
     zo::add_class(widgets_.window, "zo-manager");
     zo::add_class(widgets_.window, "tab-manager");
 

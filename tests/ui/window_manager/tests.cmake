@@ -48,3 +48,7 @@ foreach(second beside before above)
 endforeach()
 zo_test(manager_monitor_above_test FILES ui/window_manager/manager_monitor_above_test.cpp
   LIBRARIES panel_support zo_ui SESSIONS openbox none SESSION_OPTIONS -m)
+
+# Window managers differ in what they do about popups when other windows come.
+zo_test(manager_on_top_test FILES ui/window_manager/manager_on_top_test.cpp LIBRARIES panel_support zo_ui
+  SESSIONS openbox xfwm4 marco none)
