@@ -1,7 +1,15 @@
-# The example programs, each run as its reader would.
+# The example programs, each run as its reader would; their screenshots are left in the build folder.
 if(ZO_BUILD_EXAMPLES)
-  add_test(NAME example.active_window
-    COMMAND ${session} -w openbox -- ${ENV_PROGRAM} ${test_environment}
-      ${CMAKE_CURRENT_SOURCE_DIR}/examples/active_window $<TARGET_FILE:example_active_window>)
-  set_tests_properties(example.active_window PROPERTIES TIMEOUT 300)
+  foreach(name ${zo_examples})
+    set(desktop -w openbox)
+    set(run ${CMAKE_CURRENT_SOURCE_DIR}/examples/run_example.py ${name} $<TARGET_FILE:example_${name}>
+      ${PROJECT_BINARY_DIR}/examples/pictures)
+    if(name STREQUAL active_window)
+      set(run ${CMAKE_CURRENT_SOURCE_DIR}/examples/active_window $<TARGET_FILE:example_active_window>)
+    elseif(name STREQUAL tray)
+      list(APPEND desktop -t xfce4-panel)
+    endif()
+    add_test(NAME example.${name} COMMAND ${session} ${desktop} -- ${ENV_PROGRAM} ${test_environment} ${run})
+    set_tests_properties(example.${name} PROPERTIES TIMEOUT 300)
+  endforeach()
 endif()

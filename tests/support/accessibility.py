@@ -27,19 +27,26 @@ def walk(node):
         yield from walk(child)
 
 
-application, action, *name = sys.argv[1:]
-programs = [program for program in children(Atspi.get_desktop(0)) if program.get_name() == application]
-everything = [node for program in programs for node in walk(program)]
-nodes = [node for node in everything if node.get_action_iface()]
-if action == "names":
-    for node in nodes:
-        print(node.get_role_name() + ": " + node.get_name())
-elif action == "notifications":
-    for node in everything:
-        if node.get_role() == Atspi.Role.NOTIFICATION:
-            print(": ".join([node.get_role_name(), node.get_name(), node.get_description()]))
-else:
-    for node in nodes:
-        if node.get_name() == name[0]:
-            sys.exit(not node.get_action_iface().do_action(0))
-    sys.exit("no such button: " + name[0])
+def programs(application):
+    return [program for program in children(Atspi.get_desktop(0)) if program.get_name() == application]
+
+
+def main(application, action, *name):
+    everything = [node for program in programs(application) for node in walk(program)]
+    nodes = [node for node in everything if node.get_action_iface()]
+    if action == "names":
+        for node in nodes:
+            print(node.get_role_name() + ": " + node.get_name())
+    elif action == "notifications":
+        for node in everything:
+            if node.get_role() == Atspi.Role.NOTIFICATION:
+                print(": ".join([node.get_role_name(), node.get_name(), node.get_description()]))
+    else:
+        for node in nodes:
+            if node.get_name() == name[0]:
+                sys.exit(not node.get_action_iface().do_action(0))
+        sys.exit("no such button: " + name[0])
+
+
+if __name__ == "__main__":
+    main(*sys.argv[1:])
