@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
-// The object core, in reading order. Link with `pkg-config --cflags --libs zo_core` or the CMake target
-// zo::core.
-//
-// There is nothing to start: objects may be made, and tasks and timeouts posted, before the main loop runs.
-// They are kept and run once the default GLib main context iterates, whoever iterates it.
+/// @file
+/// The object core, in reading order. Link with `pkg-config --cflags --libs zo_core` or the CMake target
+/// `zo::core`.
+///
+/// There is nothing to start: objects may be made, and tasks and timeouts posted, before the main loop runs.
+/// They are kept and run once the default GLib main context iterates, whoever iterates it.
 #pragma once
 
 #include <zo_core/zo_export.hpp>

@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
-// The property list: named values of any type, and the typed access to them.
-//
-// Every function here works on the list alone. The caller holds the property lock of the object that owns the
-// list (see zo_object.hpp). Names are compared byte by byte. The overloads that take a `const char*` do the
-// same as those that take a string, and build none.
+/// @file
+/// The property list: named values of any type, and the typed access to them.
+///
+/// Every function here works on the `list` alone. Names are compared byte by byte. The overloads that take a
+/// `const char*` do the same as those that take a string, and build none.
+///
+/// @thread any, while it holds the property lock of the object that owns the list
 #pragma once
 
 #include <zo_core/zo_export.hpp>
@@ -16,12 +18,14 @@
 #include <typeinfo>
 #include <utility>
 
-// Ordered by name; looked up by any kind of string without making a copy of it.
+/// Values by name. Ordered by name; looked up by any kind of string without making a copy of it.
 using property_list = std::map<std::string, boost::any, std::less<>>;
 
-// Copies the value stored under `name` into `out`. False when there is none; `out` is then empty.
+/// @{
+/// Copies the value stored in `list` under `name` into `out`. False when there is none; `out` is then empty.
 ZO_EXPORT bool zo_property_get(::property_list& list, std::string name, boost::any& out);
 ZO_EXPORT bool zo_property_get(::property_list& list, const char* name, boost::any& out);
+/// @}
 
 namespace zo {
 
@@ -72,7 +76,8 @@ bool property_get_extract(::property_list& list, const Name& name, T* value) {
 
 }  // namespace zo
 
-// Inserts `name` with `value`. False, and nothing changes, when the name exists.
+/// @{
+/// Inserts `name` with `value` into `list`. False, and nothing changes, when the name exists.
 template <typename T>
 bool zo_property_init(::property_list& list, std::string name, T value) {
     return zo::property_init<T>(list, std::move(name), value);
@@ -81,8 +86,10 @@ template <typename T>
 bool zo_property_init(::property_list& list, const char* name, T value) {
     return zo::property_init<T>(list, name, value);
 }
+/// @}
 
-// Stores `value` as a `T` under `name`, whatever stood there before, or nothing. Always true.
+/// @{
+/// Stores `value` as a `T` in `list` under `name`, whatever stood there before, or nothing. Always true.
 template <typename T>
 bool zo_property_set(::property_list& list, std::string name, T value) {
     boost::any old;
@@ -93,9 +100,11 @@ bool zo_property_set(::property_list& list, const char* name, T value) {
     boost::any old;
     return zo::property_set<T>(list, name, value, old);
 }
+/// @}
 
-// Copies the value stored under `name` to `*value`. False, and `*value` stays, when there is none. A stored
-// type other than `T` is a programming error: boost::bad_any_cast leaves the call.
+/// @{
+/// Copies the value stored in `list` under `name` to `*value`. False, and `*value` stays, when there is none.
+/// A stored type other than `T` is a programming error: `boost::bad_any_cast` leaves the call.
 template <typename T>
 bool zo_property_get_extract(::property_list& list, std::string name, T* value) {
     return zo::property_get_extract<T>(list, name, value);
@@ -104,3 +113,4 @@ template <typename T>
 bool zo_property_get_extract(::property_list& list, const char* name, T* value) {
     return zo::property_get_extract<T>(list, name, value);
 }
+/// @}

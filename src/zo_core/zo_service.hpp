@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
-// Tasks and timeouts of the user-interface loop: the way from any thread to the toolkit.
-//
-// The loop is GLib's default main context, whoever iterates it: gtk_main, GtkApplication, or the application
-// itself. Nothing has to be started; what is posted before the loop runs is kept.
+/// @file
+/// Tasks and timeouts of the user-interface loop: the way from any thread to the toolkit.
+///
+/// The loop is GLib's default main context, whoever iterates it: gtk_main, GtkApplication, or the application
+/// itself. Nothing has to be started; what is posted before the loop runs is kept.
 #pragma once
 
 #include <zo_core/zo_export.hpp>
@@ -10,27 +11,35 @@
 #include <functional>
 #include <string>
 
-// Queues `task` to run once on the loop. Tasks run in the order of posting, those of all threads together; a
-// task may post tasks, and a nested main loop inside one goes on running the others. The callable is
-// destroyed on the loop. `file` and `line` name the poster. Any thread. An empty task is reported as a failed
-// assertion and not queued; after the end of the service the task is dropped unseen.
+/// Queues `task` to run once on the loop. Tasks run in the order of posting, those of all threads together; a
+/// task may post tasks, and a nested main loop inside one goes on running the others. The callable is
+/// destroyed on the loop. `file` and `line` name the poster. An empty task is reported as a failed assertion
+/// and not queued.
+/// @thread any
+/// @state after the end of the service the task is dropped unseen
 ZO_EXPORT void zo_system_service_exec(std::function<void()> task, std::string file, int line);
 
-// Runs `task` once on the loop, at least `milliseconds` from now by the monotonic clock. Returns an id, never
-// 0, for zo_system_service_timeout_clear. Any thread. An empty task is reported as a failed assertion; for
-// it, and after the end of the service, nothing is armed and the result is 0.
+/// Runs `task` once on the loop, at least `milliseconds` from now by the monotonic clock. Returns an id for
+/// zo_system_service_timeout_clear(), never 0. `file` and `line` name the poster. An empty task is reported
+/// as a failed assertion; nothing is armed for it, and the result is 0.
+/// @thread any
+/// @state after the end of the service nothing is armed, and the result is 0
 ZO_EXPORT unsigned long zo_system_service_timeout(std::function<void()> task, unsigned long milliseconds,
                                                   std::string file, int line);
 
-// Cancels a timeout that has not run. An id that is unknown, has run or is running is ignored. Any thread.
+/// Cancels the timeout with this `id`, if it has not run. An id that is unknown, has run or is running is
+/// ignored.
+/// @thread any
 ZO_EXPORT void zo_system_service_timeout_clear(unsigned long id);
 
-// True once the service has ended or is ending: the toolkit is going away, and widgets are forgotten instead
-// of destroyed. Any thread.
+/// True once the service has ended or is ending: the toolkit is going away, and widgets are forgotten instead
+/// of destroyed.
+/// @thread any
 ZO_EXPORT bool zo_system_service_done();
 
-// Ends the service, for good: zo_system_service_done answers true, timeouts are dropped, the queued tasks and
-// those they post run before the call returns, and later posts are dropped. To be called on the loop's
-// thread; when another thread runs the loop meanwhile, that thread runs the remaining tasks. It happens by
-// itself when the process exits; leaving gtk_main does not end the service. Calling it again does nothing.
+/// Ends the service, for good: zo_system_service_done() answers true, timeouts are dropped, the queued tasks
+/// and those they post run before the call returns, and later posts are dropped. It happens by itself when
+/// the process exits; leaving `gtk_main` does not end the service.
+/// @thread the loop's; when another thread runs the loop meanwhile, that thread runs the remaining tasks
+/// @state a second call does nothing
 ZO_EXPORT void zo_system_service_end();

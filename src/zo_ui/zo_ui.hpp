@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: MIT
-// The user-interface library, in reading order. Link with `pkg-config --cflags --libs zo_ui` or the CMake
-// target zo::ui.
-//
-// Start-up: gtk_init, zo_ui_init, zo_theme_use_theme; then make objects; then run the main loop.
-//
-// Threads: exported functions of objects may be called from any thread unless they say otherwise; what
-// touches the screen is posted and runs on the loop, as every callback does. The toolkit and theme functions
-// (zo_ui_*, zo_theme_*) belong to the loop's thread.
+/// @file
+/// The user-interface library, in reading order. Link with `pkg-config --cflags --libs zo_ui` or the CMake
+/// target `zo::ui`.
+///
+/// Start-up: `gtk_init`, zo_ui_init(), zo_theme_use_theme(); then make objects; then run the main loop.
+///
+/// Threads: exported functions of objects may be called from any thread unless they say otherwise; what
+/// touches the screen is posted and runs on the loop, as every callback does. The toolkit and theme functions
+/// (`zo_ui_*`, `zo_theme_*`) belong to the loop's thread.
 #pragma once
 
 #include <zo_core/zo_core.hpp>
