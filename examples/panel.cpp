@@ -2,7 +2,6 @@
 // A panel across the top of the screen: a launcher at its left, a clock at its right.
 #include <zo_ui/zo_ui.hpp>
 
-#include <array>
 #include <ctime>
 #include <memory>
 
@@ -17,9 +16,9 @@ GtkWidget* button_new(const char* label, std::function<void()> action) {
 // Shows the time once a second, as long as the label lives.
 void tick(GtkWidget* label, const std::shared_ptr<unsigned long>& timeout) {
     const std::time_t now = std::time(nullptr);
-    std::array<char, 16> text{};
-    std::strftime(text.data(), text.size(), "%H:%M:%S", std::localtime(&now));
-    gtk_label_set_text(GTK_LABEL(label), text.data());
+    char text[16];
+    std::strftime(text, sizeof text, "%H:%M:%S", std::localtime(&now));
+    gtk_label_set_text(GTK_LABEL(label), text);
     *timeout = zo_system_service_timeout([label, timeout] { tick(label, timeout); }, 1000, "clock", __LINE__);
 }
 
@@ -42,8 +41,7 @@ int main(int argc, char** argv) {
     g_clear_error(&error);
 
     zo_window_manager_ptr panel = zo_window_manager_new("");
-    zo_window_manager_set_keep_extended(panel,
-                                        true);  // else it slides away until the pointer touches the top
+    zo_window_manager_set_keep_extended(panel, true);  // else it slides away at once
     zo_window_manager_on_open(panel, [](zo_window_manager_ptr opened) {
         const auto launch = [] { g_spawn_command_line_async("x-terminal-emulator", nullptr); };
         const auto leave = [opened] { zo_window_manager_close(opened); };
