@@ -5,6 +5,7 @@ zo_library(zo_core
     zo_core/zo_lang.cpp
     zo_core/zo_object.cpp
     zo_core/zo_object_refs.cpp
+    zo_core/zo_place.cpp
     zo_core/zo_property.cpp
     zo_core/zo_service.cpp
     zo_core/zo_service_queue.cpp

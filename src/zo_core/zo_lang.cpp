@@ -4,13 +4,12 @@
 #include <zo_core/zo_lang.hpp>
 
 #include <zo_core/zo_catalogue_p.hpp>
+#include <zo_core/zo_place_p.hpp>
 
-#include <dlfcn.h>
 #include <glib.h>
 #include <libintl.h>
 
 #include <array>
-#include <filesystem>
 #include <mutex>
 #include <string_view>
 
@@ -36,30 +35,9 @@ constexpr std::array<english_text, 10> english{{
     {"toolbar-unlocked", "The panel slides away. Click to keep it open."},
 }};
 
-void bind_domain();
-
-// Catalogues stand beside the library (prefix/share/locale), wherever the prefix was moved or staged; the
-// configured place is the fallback. An exported function would not tell where the library is: in a program
-// that takes its address, it may be the program's own entry.
-std::string locale_directory() {
-    namespace fs = std::filesystem;
-    Dl_info self;
-    if (dladdr(reinterpret_cast<const void*>(&bind_domain), &self) && self.dli_fname) {
-        std::error_code error;
-        fs::path prefix = fs::canonical(self.dli_fname, error).parent_path();
-        for (int up = 0; up < 3 && !error && prefix.has_relative_path(); ++up) {
-            prefix = prefix.parent_path();
-            if (fs::path candidate = prefix / "share" / "locale";
-                fs::exists(candidate / "de" / "LC_MESSAGES" / "zo.mo", error))
-                return candidate;
-        }
-    }
-    return ZO_LOCALEDIR;
-}
-
 // With a damaged catalogue the texts are English: gettext finds none where there is none.
 void bind_domain() {
-    const std::string folder = locale_directory();
+    const std::string folder = zo::installed_folder("share/locale", "de/LC_MESSAGES/zo.mo", ZO_LOCALEDIR);
     bindtextdomain(domain, zo::are_catalogues_sound(folder, domain) ? folder.c_str() : "/nonexistent");
     bind_textdomain_codeset(domain, "UTF-8");
 }

@@ -78,4 +78,5 @@ zo_library(zo_ui
     zo_ui/zo_window_manager.hpp
   PUBLIC zo_core PkgConfig::GTK3
   PRIVATE PkgConfig::APPINDICATOR PkgConfig::X11 PkgConfig::XMU)
-target_compile_definitions(zo_ui_objects PRIVATE G_LOG_DOMAIN="zo_ui")
+target_compile_definitions(zo_ui_objects PRIVATE
+  ZO_THEMEDIR="${CMAKE_INSTALL_FULL_DATADIR}/themes" G_LOG_DOMAIN="zo_ui")

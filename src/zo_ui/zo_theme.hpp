@@ -24,6 +24,16 @@ ZO_EXPORT void zo_theme_set_theme_path(std::string path);
 /// The folder that themes are found in.
 ZO_EXPORT std::string zo_theme_get_theme_path();
 
+/// The folder of the themes that came with the library, ending with a separator: prefix/share/themes/brevant/
+/// of the installation that the library was loaded from, also when that was moved. In a build tree it is the
+/// build's. Nothing uses it by itself; an installed program says, before zo_theme_use_theme(),
+///
+///     zo_theme_set_theme_path(zo_theme_get_system_path());
+///
+/// and finds its theme from whatever folder it is started in.
+/// @thread any; needs no display
+ZO_EXPORT std::string zo_theme_get_system_path();
+
 /// The name given to zo_theme_use_theme() last, even if that failed; at first `brevant`.
 ZO_EXPORT std::string zo_theme_get_theme_name();
 

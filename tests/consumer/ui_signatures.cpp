@@ -227,6 +227,7 @@ void check_theme() {
     check<void(std::string)>(zo_theme_set_theme_path);
     check<std::string()>(zo_theme_get_theme_path);
     check<std::string()>(zo_theme_get_theme_name);
+    check<std::string()>(zo_theme_get_system_path);
     check<void(std::string, GError*&)>(zo_theme_use_theme);
     check<void(std::string, GError*&)>(zo_theme_add_css_permanent);
 }

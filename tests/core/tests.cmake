@@ -16,6 +16,8 @@ zo_test(core_catalogue_test
   FILES core/catalogue_test.cpp ${PROJECT_SOURCE_DIR}/src/zo_core/zo_catalogue.cpp LIBRARIES PkgConfig::GLIB)
 add_dependencies(core_catalogue_test zo_catalogues)
 
+zo_test(core_place_test FILES core/place_test.cpp)
+
 zo_test(core_service_order_test FILES core/service_order_test.cpp core/sleeping_loop.cpp)
 zo_test(core_service_captures_test FILES core/service_captures_test.cpp)
 zo_test(core_service_fairness_test FILES core/service_fairness_test.cpp)

@@ -2,6 +2,7 @@
 #include <zo_ui/zo_theme.hpp>
 
 #include <zo_core/zo_diagnostics_p.hpp>
+#include <zo_core/zo_place_p.hpp>
 #include <zo_ui/toolkit/process_state_p.hpp>
 
 #include <memory>
@@ -58,6 +59,10 @@ void zo_theme_uninit() {
 void zo_theme_set_theme_path(std::string path) { toolkit().theme_path = std::move(path); }
 
 std::string zo_theme_get_theme_path() { return toolkit().theme_path; }
+
+std::string zo_theme_get_system_path() {
+    return zo::installed_folder("share/themes/brevant", "brevant/style.css", ZO_THEMEDIR "/brevant") + "/";
+}
 
 std::string zo_theme_get_theme_name() { return toolkit().theme_name; }
 

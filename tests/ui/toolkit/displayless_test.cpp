@@ -42,6 +42,17 @@ TEST(Displayless, APanelReportsAndStaysClosed) {
     zo_window_manager_destroy(manager);
 }
 
+TEST(Displayless, TheSystemsThemesAreThoseOfTheBuild) {
+    const std::string path = zo_theme_get_system_path();
+    EXPECT_EQ(path, std::string(std::getenv("ZO_BINARY_DIR")) + "/share/themes/brevant/");
+    EXPECT_EQ(zo_theme_get_theme_path(), "./share/themes/brevant/") << "nothing uses it by itself";
+    zo_theme_set_theme_path(path);
+    GError* error = nullptr;
+    zo_theme_use_theme("brevant", error);
+    EXPECT_EQ(error, nullptr);
+    zo_theme_uninit();
+}
+
 // Sheets are loaded, and shown nowhere.
 TEST(Displayless, ThemesLoadAndGo) {
     zo_theme_set_theme_path(std::string(std::getenv("ZO_SOURCE_DIR")) + "/share/themes/brevant/");
