@@ -32,3 +32,6 @@ include(ui/toolkit/tests.cmake)
 include(ui/window_manager/tests.cmake)
 include(ui/notification/tests.cmake)
 include(ui/appindicator/tests.cmake)
+
+zo_test(virtual_ends_test FILES ui/virtual_ends_test.cpp
+  LIBRARIES zo_ui_objects PkgConfig::APPINDICATOR PkgConfig::X11 PkgConfig::XMU)
