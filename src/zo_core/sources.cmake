@@ -10,6 +10,7 @@ zo_library(zo_core
     zo_core/zo_service.cpp
     zo_core/zo_service_queue.cpp
     zo_core/zo_service_timers.cpp
+    zo_core/zo_trace.cpp
     zo_core/zo_unique_id.cpp
   HEADERS
     zo_core/zo_core.hpp

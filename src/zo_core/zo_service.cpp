@@ -3,6 +3,7 @@
 
 #include <zo_core/zo_diagnostics.hpp>
 #include <zo_core/zo_service_p.hpp>
+#include <zo_core/zo_trace_p.hpp>
 
 namespace {
 
@@ -12,15 +13,24 @@ bool accept(const zo::task& task, const char* function, const std::string& file,
     return false;
 }
 
+// With the trace off, a task is posted as it came.
+void trace(zo::task& task, const char* what, const std::string& file, int line) {
+    if (zo::tracing()) task = zo::traced(std::move(task), what, file, line);
+}
+
 }  // namespace
 
 void zo_system_service_exec(std::function<void()> task, std::string file, int line) {
-    if (accept(task, __func__, file, line)) zo::task_queue::instance().post(task);
+    if (!accept(task, __func__, file, line)) return;
+    trace(task, "task", file, line);
+    zo::task_queue::instance().post(task);
 }
 
 unsigned long zo_system_service_timeout(std::function<void()> task, unsigned long milliseconds,
                                         std::string file, int line) {
-    return accept(task, __func__, file, line) ? zo::timer_list::instance().add(task, milliseconds) : 0;
+    if (!accept(task, __func__, file, line)) return 0;
+    trace(task, "timeout", file, line);
+    return zo::timer_list::instance().add(task, milliseconds);
 }
 
 void zo_system_service_timeout_clear(unsigned long id) { zo::timer_list::instance().clear(id); }

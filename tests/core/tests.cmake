@@ -26,6 +26,7 @@ zo_test(core_service_timeout_test
 zo_test(core_service_end_test
   FILES core/service_end_test.cpp core/child_process.cpp core/sleeping_loop.cpp)
 zo_test(core_service_exit_test FILES core/service_exit_test.cpp core/child_process.cpp)
+zo_test(core_service_trace_test FILES core/service_trace_test.cpp core/child_process.cpp)
 zo_test(core_threads_test FILES core/threads_test.cpp)
 
 # At a fixed address, so that the address of a library's function is the program's own entry for it.

@@ -21,7 +21,9 @@ std::string field(const GLogField* fields, gsize count, const char* key) {
     return {};
 }
 
-GLogWriterOutput on_message(GLogLevelFlags level, const GLogField* fields, gsize count, gpointer) {
+// What was asked for by G_MESSAGES_DEBUG goes where GLib writes it.
+GLogWriterOutput on_message(GLogLevelFlags level, const GLogField* fields, gsize count, gpointer data) {
+    if (level & G_LOG_LEVEL_DEBUG) return g_log_writer_default(level, fields, count, data);
     const std::string text = field(fields, count, "GLIB_DOMAIN") + ": " + field(fields, count, "MESSAGE");
     if (!(level & (G_LOG_LEVEL_ERROR | G_LOG_LEVEL_CRITICAL | G_LOG_LEVEL_WARNING)))
         return G_LOG_WRITER_HANDLED;
