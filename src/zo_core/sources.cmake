@@ -1,6 +1,7 @@
 zo_library(zo_core
   SOURCES
     zo_core/zo_catalogue.cpp
+    zo_core/zo_describe.cpp
     zo_core/zo_diagnostics.cpp
     zo_core/zo_lang.cpp
     zo_core/zo_object.cpp

@@ -47,7 +47,8 @@ class ZO_EXPORT _zo_object : public zo_object_base {
     /// call writes.
     virtual void destroy(std::string reason, int line);
 
-    /// A printable description.
+    /// One readable line for logs and debuggers, such as
+    /// `[zo_window] id "notes", title "My notes", visible, referenced`. What it consists of may change.
     virtual std::string describe();
 
     /// @{

@@ -2,6 +2,7 @@
 // The object: making it, its type, its handles, and the way from any thread to the loop.
 #include <zo_ui/zo_appindicator/appindicator_p.hpp>
 
+#include <zo_core/zo_describe_p.hpp>
 #include <zo_core/zo_diagnostics_p.hpp>
 #include <zo_core/zo_object_p.hpp>
 #include <zo_core/zo_service.hpp>
@@ -30,6 +31,16 @@ _zo_appindicator::~_zo_appindicator() { zo_object_ref_decrement(tag); }
 zo_object_ptr _zo_appindicator::to_object() { return shared_from_this(); }
 
 std::string _zo_appindicator::get_type() { return tag; }
+
+std::string _zo_appindicator::describe() {
+    zo::description description(*this);
+    const zo::property_guard guard(*this, source::file, source::show_task);
+    description.text("id", "name");
+    description.text("title", "title");
+    description.text("icon", "icon");
+    description.state({{"destroyed", "object-destroyed"}}, "in use");
+    return description.line();
+}
 
 zo_appindicator_ptr _zo_appindicator::handle() {
     return boost::static_pointer_cast<_zo_appindicator>(shared_from_this());

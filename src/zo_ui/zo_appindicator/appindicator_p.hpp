@@ -65,6 +65,7 @@ class _zo_appindicator : public _zo_object {
     zo_object_ptr to_object() override;
     std::string get_type() override;
     void destroy(std::string reason, int line) override;
+    std::string describe() override;
 
     // Posting: any thread.
     void add_action(std::string name, std::string label, callback_function callback);

@@ -2,6 +2,7 @@
 // The object: making it, its type and its handles.
 #include <zo_ui/zo_notification/notification_p.hpp>
 
+#include <zo_core/zo_describe_p.hpp>
 #include <zo_core/zo_diagnostics_p.hpp>
 #include <zo_core/zo_unique_id.hpp>
 
@@ -27,6 +28,19 @@ _zo_notification::~_zo_notification() { zo_object_ref_decrement(tag); }
 zo_object_ptr _zo_notification::to_object() { return shared_from_this(); }
 
 std::string _zo_notification::get_type() { return tag; }
+
+std::string _zo_notification::describe() {
+    zo::description description(*this);
+    const zo::property_guard guard(*this, source::file, source::settings);
+    description.part("id", std::to_string(id_));
+    description.part("title", zo::quoted(text_.title));
+    description.state({{"destroyed", "window-destroyed"},
+                       {"being destroyed", "object-destroyed"},
+                       {"visible", "window-visible"},
+                       {"opened", "window-opened"}},
+                      "closed");
+    return description.line();
+}
 
 zo_notification_ptr _zo_notification::handle() {
     return boost::static_pointer_cast<_zo_notification>(shared_from_this());

@@ -25,6 +25,7 @@ class _zo_notification : public _zo_object {
     zo_object_ptr to_object() override;
     std::string get_type() override;
     void destroy(std::string reason, int line) override;
+    std::string describe() override;
 
     // Posting: any thread.
     void post(void (_zo_notification::*operation)(), int line);

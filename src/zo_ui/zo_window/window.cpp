@@ -2,6 +2,7 @@
 // The object: making it, its type and its handles.
 #include <zo_ui/zo_window/window_p.hpp>
 
+#include <zo_core/zo_describe_p.hpp>
 #include <zo_core/zo_diagnostics_p.hpp>
 
 namespace {
@@ -21,6 +22,19 @@ _zo_window::~_zo_window() { zo_object_ref_decrement(tag); }
 zo_object_ptr _zo_window::to_object() { return shared_from_this(); }
 
 std::string _zo_window::get_type() { return tag; }
+
+std::string _zo_window::describe() {
+    zo::description description(*this);
+    const zo::property_guard guard(*this, zo::window_source::file, zo::window_source::state_reader);
+    description.text("id", "window-id");
+    description.text("title", "window-title-text");
+    description.state({{"destroyed", "window-destroyed"},
+                       {"being destroyed", "object-destroyed"},
+                       {"visible", "window-visible"},
+                       {"opened", "window-opened"}},
+                      "closed");
+    return description.line();
+}
 
 zo_window_ptr _zo_window::handle() { return boost::static_pointer_cast<_zo_window>(shared_from_this()); }
 

@@ -28,6 +28,7 @@ class _zo_window : public _zo_object {
     zo_object_ptr to_object() override;
     std::string get_type() override;
     void destroy(std::string reason, int line) override;
+    std::string describe() override;
 
     virtual void init();  // binds the title bar's handlers; the constructor's last step
     virtual bool add_content_child(GtkWidget* child, bool expand, bool fill, int padding, bool pack_end);

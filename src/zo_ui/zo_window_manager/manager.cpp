@@ -2,6 +2,7 @@
 // The object: making it, its type and its handles.
 #include <zo_ui/zo_window_manager/manager_p.hpp>
 
+#include <zo_core/zo_describe_p.hpp>
 #include <zo_core/zo_diagnostics_p.hpp>
 
 namespace {
@@ -23,6 +24,18 @@ _zo_window_manager::~_zo_window_manager() { zo_object_ref_decrement(tag); }
 zo_object_ptr _zo_window_manager::to_object() { return shared_from_this(); }
 
 std::string _zo_window_manager::get_type() { return tag; }
+
+std::string _zo_window_manager::describe() {
+    zo::description description(*this);
+    const zo::property_guard guard(*this, zo::manager_source::file, zo::manager_source::state_reader);
+    description.state({{"destroyed", "manager-destroyed"},
+                       {"being destroyed", "object-destroyed"},
+                       {"visible", "manager-visible"},
+                       {"opened", "manager-opened"}},
+                      "closed");
+    description.state({{"kept extended", "manager-keep-extended"}}, "slides away");
+    return description.line();
+}
 
 zo_window_manager_ptr _zo_window_manager::handle() {
     return boost::static_pointer_cast<_zo_window_manager>(shared_from_this());

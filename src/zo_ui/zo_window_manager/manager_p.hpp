@@ -62,6 +62,7 @@ class _zo_window_manager : public _zo_object, public zo::window_host {
     zo_object_ptr to_object() override;
     std::string get_type() override;
     void destroy(std::string reason, int line) override;
+    std::string describe() override;
 
     virtual void extend_now();
     virtual void retract_now();
