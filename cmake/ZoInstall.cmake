@@ -18,3 +18,10 @@ foreach(module zo_core zo_ui)
   configure_file(cmake/${module}.pc.in ${module}.pc @ONLY)
   install(FILES ${PROJECT_BINARY_DIR}/${module}.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
 endforeach()
+
+# gdb loads the printers by this name together with the library: beside it in a build tree, where gdb must be told
+# that the tree is safe, and installed in its own folder.
+set(zo_printers libzo_core.so.${PROJECT_VERSION}-gdb.py)
+configure_file(share/gdb/zo_printers.py ${CMAKE_LIBRARY_OUTPUT_DIRECTORY}/${zo_printers} COPYONLY)
+install(FILES share/gdb/zo_printers.py RENAME ${zo_printers}
+  DESTINATION ${CMAKE_INSTALL_DATADIR}/gdb/auto-load${CMAKE_INSTALL_FULL_LIBDIR})
