@@ -26,13 +26,13 @@ std::atomic<long> clock_reads{0};
 
 // In place of the standard library's and of GLib's own, for the library as well.
 
-void* operator new(std::size_t size) {
+[[gnu::noinline]] void* operator new(std::size_t size) {
     ++allocations;
     if (void* place = std::malloc(size)) return place;
     throw std::bad_alloc();
 }
-void operator delete(void* place) noexcept { std::free(place); }
-void operator delete(void* place, std::size_t) noexcept { std::free(place); }
+[[gnu::noinline]] void operator delete(void* place) noexcept { std::free(place); }
+[[gnu::noinline]] void operator delete(void* place, std::size_t) noexcept { std::free(place); }
 
 extern "C" __attribute__((visibility("default"))) gint64 g_get_monotonic_time() {
     static const auto real = reinterpret_cast<gint64 (*)()>(dlsym(RTLD_NEXT, "g_get_monotonic_time"));
