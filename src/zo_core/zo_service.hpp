@@ -5,8 +5,8 @@
 /// The loop is GLib's default main context, whoever iterates it: gtk_main, GtkApplication, or the application
 /// itself. Nothing has to be started; what is posted before the loop runs is kept.
 ///
-/// In a process that was started with `G_MESSAGES_DEBUG=zo_core`, GLib's log has a debug message for each task
-/// and timeout that has run: who posted it, how long it waited and how long it ran. Otherwise that costs
+/// In a process that was started with `G_MESSAGES_DEBUG=zo_core`, GLib's log has a debug message for each
+/// task and timeout that has run: who posted it, how long it waited and how long it ran. Otherwise that costs
 /// nothing.
 #pragma once
 
