@@ -22,6 +22,7 @@ int main(int argc, char** argv) {
     gtk_init(&argc, &argv);
     zo_ui_init();
     GError* error = nullptr;
+    zo_theme_set_theme_path(zo_theme_get_system_path());
     zo_theme_use_theme("brevant", error);
     if (error) g_printerr("no theme: %s\n", error->message);
     g_clear_error(&error);

@@ -36,6 +36,7 @@ int main(int argc, char** argv) {
     gtk_init(&argc, &argv);
     zo_ui_init();
     GError* error = nullptr;
+    zo_theme_set_theme_path(zo_theme_get_system_path());
     zo_theme_use_theme("brevant", error);
     if (error) g_printerr("no theme: %s\n", error->message);
     g_clear_error(&error);
@@ -44,16 +45,15 @@ int main(int argc, char** argv) {
     zo_window_manager_set_keep_extended(panel, true);  // else it slides away at once
     zo_window_manager_on_open(panel, [](zo_window_manager_ptr opened) {
         const auto launch = [] { g_spawn_command_line_async("x-terminal-emulator", nullptr); };
-        const auto leave = [opened] { zo_window_manager_close(opened); };
         zo_window_manager_add_widget_left(opened, button_new("Terminal", launch));
-        zo_window_manager_add_widget_left(opened, button_new("Quit", leave));
+        zo_window_manager_add_widget_left(opened,
+                                          button_new("Quit", [opened] { zo_window_manager_close(opened); }));
         zo_window_manager_add_widget_right(opened, clock_new());
     });
     zo_window_manager_on_close(panel, [](zo_window_manager_ptr) { gtk_main_quit(); });
     zo_window_manager_open(panel);
     zo_window_manager_show(panel);
     gtk_main();
-
     zo_window_manager_destroy(panel);
     zo_system_service_end();
     zo_theme_uninit();

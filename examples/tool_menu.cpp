@@ -25,10 +25,8 @@ void fill_menu(const zo_window_ptr& window, GtkGrid* grid) {
 
 void save(const zo_window_ptr& window, GdkPixbuf* photo) {
     GError* error = nullptr;
-    if (photo && gdk_pixbuf_save(photo, "notes.png", "png", &error, nullptr))
-        zo_window_set_title(window, "Saved as notes.png");
-    else
-        zo_window_set_title(window, error ? error->message : "No picture");
+    const bool saved = photo && gdk_pixbuf_save(photo, "notes.png", "png", &error, nullptr);
+    zo_window_set_title(window, saved ? "Saved as notes.png" : error ? error->message : "No picture");
     g_clear_error(&error);
 }
 
@@ -38,6 +36,7 @@ int main(int argc, char** argv) {
     gtk_init(&argc, &argv);
     zo_ui_init();
     GError* error = nullptr;
+    zo_theme_set_theme_path(zo_theme_get_system_path());
     zo_theme_use_theme("brevant", error);
     if (error) g_printerr("no theme: %s\n", error->message);
     g_clear_error(&error);

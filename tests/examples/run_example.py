@@ -61,10 +61,9 @@ STEPS = {
 class Run:
     def __init__(self, name, program, folder):
         self.name, self.folder = name, folder
-        # A folder as an application has it, with what it reads beside it.
+        # A folder of its own, with the theme that one of them reads beside itself.
         self.work = Path(tempfile.mkdtemp())
-        for beside in ("share", "examples"):
-            (self.work / beside).symlink_to(ROOT / beside)
+        (self.work / "examples").symlink_to(ROOT / "examples")
         self.output = self.work / "output"
         self.error = self.work / "error"
         environment = dict(os.environ, G_DEBUG="fatal-warnings", TZ="UTC")
