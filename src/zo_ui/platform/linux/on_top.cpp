@@ -16,7 +16,7 @@ using zo::platform::x_memory;
 
 namespace {
 
-// How often one window may come back on top within a second.
+// How often others may come back on top within a second.
 constexpr int patience = 50;
 
 std::vector<GtkWidget*>& kept() {
@@ -41,8 +41,9 @@ bool has_state(Display* display, Window window) {
 // are told by the client in them.
 bool is_ordinary(Display* display, Window window) {
     XWindowAttributes facts{};
-    if (!XGetWindowAttributes(display, window, &facts) || facts.c_class == InputOnly) return false;
-    if (!facts.override_redirect && facts.map_state == IsViewable) return true;
+    if (!XGetWindowAttributes(display, window, &facts)) return false;
+    if (facts.c_class == InputOnly || facts.map_state != IsViewable) return false;
+    if (!facts.override_redirect) return true;
     return has_state(display, window) || XmuClientWindow(display, window) != window;
 }
 
@@ -67,13 +68,12 @@ std::vector<Window> mapped_popups() {
     return windows;
 }
 
-// Two programs that both want to be on top would not come to an end.
-bool insists(Window window) {
-    static Window last = None;
+// Programs that all want to be on top would not come to an end.
+bool is_fight() {
     static int times = 0;
     static gint64 since = 0;
     const gint64 now = g_get_monotonic_time();
-    if (std::exchange(last, window) != window || now - since > G_TIME_SPAN_SECOND) {
+    if (now - since > G_TIME_SPAN_SECOND) {
         since = now;
         times = 0;
     }
@@ -90,8 +90,23 @@ void raise_above(Display* display, Window window, const std::vector<Window>& cov
     }
 }
 
+void restack_all();
+
+// The other one may have come to rest by then.
+guint retry = 0;
+
+void try_later() {
+    const auto on_time = [](gpointer) -> gboolean {
+        retry = 0;
+        restack_all();
+        return G_SOURCE_REMOVE;
+    };
+    if (retry == 0) retry = g_timeout_add_seconds(1, on_time, nullptr);
+}
+
 void restack(Display* display) {
     const std::vector<Window> popups = mapped_popups();
+    if (popups.empty()) return;
     const std::vector<Window> stack = stack_of(display);
     const auto is_ours = [&](Window window) {
         return std::binary_search(popups.begin(), popups.end(), window);
@@ -101,8 +116,8 @@ void restack(Display* display) {
         if (is_ours(*window) || !is_ordinary(display, *window)) continue;
         std::vector<Window> covered;
         std::copy_if(lowest, window, std::back_inserter(covered), is_ours);
-        if (!insists(*window)) raise_above(display, *window, covered);
-        return;
+        if (covered.empty()) return;
+        return is_fight() ? try_later() : raise_above(display, *window, covered);
     }
 }
 
@@ -145,20 +160,35 @@ GdkFilterReturn on_event(GdkXEvent* event, GdkEvent*, gpointer) {
     return GDK_FILTER_CONTINUE;
 }
 
+// What the desktop tells of its windows is asked for as long as there is a popup.
+int added_events = 0;
+
+void listen(GdkWindow* root) {
+    const int before = gdk_window_get_events(root);
+    const int wanted = before | GDK_PROPERTY_CHANGE_MASK | GDK_SUBSTRUCTURE_MASK;
+    added_events = wanted & ~before;
+    gdk_window_set_events(root, static_cast<GdkEventMask>(wanted));
+    gdk_window_add_filter(nullptr, on_event, nullptr);
+}
+
+void stop_listening(GdkWindow* root) {
+    gdk_window_remove_filter(nullptr, on_event, nullptr);
+    gdk_window_set_events(root, static_cast<GdkEventMask>(gdk_window_get_events(root) & ~added_events));
+    if (const guint waiting = std::exchange(retry, 0)) g_source_remove(waiting);
+}
+
+GdkWindow* root_of(GtkWidget* popup) { return gdk_screen_get_root_window(gtk_widget_get_screen(popup)); }
+
 void on_destroy(GtkWidget* popup, gpointer) {
     std::erase(kept(), popup);
-    if (kept().empty()) gdk_window_remove_filter(nullptr, on_event, nullptr);
+    if (kept().empty()) stop_listening(root_of(popup));
 }
 
 }  // namespace
 
 void zo::platform::keep_on_top(GtkWidget* popup) {
-    if (kept().empty()) {
-        GdkWindow* const root = gdk_screen_get_root_window(gtk_widget_get_screen(popup));
-        const int mask = gdk_window_get_events(root) | GDK_PROPERTY_CHANGE_MASK | GDK_SUBSTRUCTURE_MASK;
-        gdk_window_set_events(root, static_cast<GdkEventMask>(mask));
-        gdk_window_add_filter(nullptr, on_event, nullptr);
-    }
+    if (!GDK_IS_X11_DISPLAY(gtk_widget_get_display(popup))) return;
+    if (kept().empty()) listen(root_of(popup));
     kept().push_back(popup);
     g_signal_connect(popup, "destroy", G_CALLBACK(on_destroy), nullptr);
 }

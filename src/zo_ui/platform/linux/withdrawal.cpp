@@ -36,7 +36,7 @@ long state_of(GdkWindow* native) {
     XGetWindowProperty(display_of(native), gdk_x11_window_get_xid(native), atom, 0, 1, False, atom, &type,
                        &format, &count, &rest, &value);
     gdk_x11_display_error_trap_pop_ignored(display);
-    const long state = count > 0 ? *reinterpret_cast<long*>(value) : -1;
+    const long state = count > 0 && format == 32 ? *reinterpret_cast<long*>(value) : -1;
     if (value) XFree(value);
     return state;
 }
@@ -72,17 +72,18 @@ void zo::platform::window_answer::note(const GdkXEvent* event, GdkWindow* native
     if (x.xany.serial < since) return;
     mapped |= x.type == MapNotify && x.xmap.window == gdk_x11_window_get_xid(native);
     if (!is_state_change(x, native)) return;
-    const bool is_deleted = x.xproperty.state == PropertyDelete;
-    (is_deleted ? deleted : set) = true;
+    deleted = x.xproperty.state == PropertyDelete;
+    set |= !deleted;
 }
 
 void zo::platform::withdrawal::before_hide(GtkWidget* toplevel) {
     GdkWindow* const native = gtk_widget_get_window(toplevel);
     if (!native || !gtk_widget_get_mapped(toplevel)) return;
     watch(native);
+    if (native != native_) return;
     // One that let the window go already, since somebody else unmapped it, has nothing to answer.
     if (answer_.deleted && unanswered_ == 0) return;
-    if (!answer_.is_to_showing() && manager_answers() && state_of(native) <= WithdrawnState)
+    if (!answer_.is_to_showing() && !is_silent && manager_runs() && state_of(native) <= WithdrawnState)
         await(&window_answer::is_to_showing);
     begin();
     hidden_ = true;
@@ -92,7 +93,8 @@ void zo::platform::withdrawal::before_hide(GtkWidget* toplevel) {
 void zo::platform::withdrawal::before_show(GtkWidget* toplevel) {
     GdkWindow* const native = gtk_widget_get_window(toplevel);
     if (!native || native != native_) return forget();
-    const bool is_pending = hidden_ && unanswered_ > 0 && manager_answers();
+    if (hidden_ && !manager_runs()) unanswered_ = 0;  // nobody is there to answer
+    const bool is_pending = hidden_ && unanswered_ > 0 && !is_silent;
     if (is_pending && (state_of(native) == WithdrawnState || await(&window_answer::is_to_hiding)))
         unanswered_ = 0;
     begin();
@@ -116,7 +118,7 @@ void zo::platform::withdrawal::forget() {
 }
 
 void zo::platform::withdrawal::watch(GdkWindow* native) {
-    if (native == native_) return;
+    if (native == native_ || !GDK_IS_X11_WINDOW(native)) return;
     forget();
     native_ = GDK_WINDOW(g_object_ref(native));
     gdk_window_add_filter(native_, on_event, this);
@@ -141,12 +143,12 @@ void zo::platform::withdrawal::on_state() {
     }
     if (!std::exchange(answer_.deleted, false) && state_of(native_) != WithdrawnState) return;
     --unanswered_;
-    gdk_window_show_unraised(native_);
+    if (gdk_window_is_visible(native_)) gdk_window_show_unraised(native_);
 }
 
-bool zo::platform::withdrawal::manager_answers() const {
+bool zo::platform::withdrawal::manager_runs() const {
     const GdkAtom hint = gdk_atom_intern_static_string("_NET_WM_STATE");
-    return !is_silent && gdk_x11_screen_supports_net_wm_hint(gdk_window_get_screen(native_), hint);
+    return gdk_x11_screen_supports_net_wm_hint(gdk_window_get_screen(native_), hint);
 }
 
 // Looks into the queue without taking anything out of it.

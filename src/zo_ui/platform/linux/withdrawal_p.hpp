@@ -13,7 +13,7 @@ struct window_answer {
     unsigned long since = 0;
     bool mapped = false;
     bool set = false;      // WM_STATE, by the window manager
-    bool deleted = false;  // likewise
+    bool deleted = false;  // likewise, and not set again
 
     void note(const GdkXEvent* event, GdkWindow* native);
     bool is_to_showing() const { return mapped && set; }
@@ -44,7 +44,7 @@ class withdrawal {
     void on_state();
     void watch(GdkWindow* native);
     void begin();
-    bool manager_answers() const;
+    bool manager_runs() const;
     bool await(bool (window_answer::*complete)() const);
 
     GdkWindow* native_ = nullptr;  // held
