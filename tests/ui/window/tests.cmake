@@ -3,5 +3,6 @@ zo_test(window_hints_test FILES ui/window/window_hints_test.cpp LIBRARIES ui_sup
   SESSIONS openbox xfwm4 metacity marco icewm fluxbox none)
 # icewm loses the showing of a window most often.
 zo_test(window_place_test FILES ui/window/window_place_test.cpp LIBRARIES ui_support zo_ui SESSIONS openbox icewm none)
+zo_test(window_late_manager_test FILES ui/window/window_late_manager_test.cpp LIBRARIES ui_support zo_ui SESSIONS none)
 include(ui/window/tree_tests.cmake)
 include(ui/window/lifecycle_tests.cmake)
