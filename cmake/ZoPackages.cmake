@@ -37,8 +37,13 @@ install(FILES ${packaging_built}/zo-demo.1.gz DESTINATION ${CMAKE_INSTALL_MANDIR
   COMPONENT zo-demo EXCLUDE_FROM_ALL)
 install(FILES README.md CHANGELOG.md DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/libzo-dev
   COMPONENT libzo-dev EXCLUDE_FROM_ALL)
-install(DIRECTORY docs examples DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/libzo-dev
-  COMPONENT libzo-dev EXCLUDE_FROM_ALL FILES_MATCHING PATTERN "*.md" PATTERN "*.png" PATTERN "*.cpp" PATTERN "*.hpp")
+# The guides are pages of the site, which script/site builds.
+install(DIRECTORY docs DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/libzo-dev COMPONENT libzo-dev EXCLUDE_FROM_ALL
+  FILES_MATCHING PATTERN "*.md" PATTERN "*.png" PATTERN "site" EXCLUDE PATTERN "guides" EXCLUDE)
+install(DIRECTORY ${PROJECT_SOURCE_DIR}/build/site/ DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/libzo-dev/html
+  COMPONENT libzo-dev EXCLUDE_FROM_ALL OPTIONAL)
+install(DIRECTORY examples DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/libzo-dev COMPONENT libzo-dev EXCLUDE_FROM_ALL
+  FILES_MATCHING PATTERN "*.cpp" PATTERN "*.css")
 
 set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_CONTACT ${zo_maintainer})
@@ -86,6 +91,6 @@ set(CPACK_DEBIAN_ZO-DEMO_PACKAGE_NAME zo-demo)
 set(CPACK_DEBIAN_ZO-DEMO_PACKAGE_SECTION x11)
 set(CPACK_DEBIAN_ZO-DEMO_PACKAGE_DEPENDS "libzo1 (= ${PROJECT_VERSION})")
 set(CPACK_DEBIAN_ZO-DEMO_DESCRIPTION "user-interface library of a Linux desktop shell - demonstration
-Opens windows, a panel, notifications and a tray icon whose controls try out
-what the zo library offers.")
+A gallery of what the zo library offers: a page for every feature, with live
+switches and the code that makes it.")
 include(CPack)

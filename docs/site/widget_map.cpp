@@ -86,8 +86,20 @@ void fill(const zo_window_ptr& window) {
          {zo_ui_button_new_with_label("A button of the library"), zo_ui_button32_new("title-menu"),
           zo_ui_button24_new("title-menu"), zo_ui_button16_new("title-menu")})
         gtk_container_add(GTK_CONTAINER(row), zo_ui_get_centared_widget(button, true));
-    zo_window_add_content_child(window, row, false, false, 24, false);
-    gtk_widget_show_all(row);
+    GtkWidget* icons = gtk_box_new(GTK_ORIENTATION_HORIZONTAL, 4);
+    for (const char* name :
+         {"icon-add", "icon-remove", "icon-check", "icon-search", "icon-settings", "icon-save", "icon-open",
+          "icon-edit", "icon-copy", "icon-info", "icon-warning", "icon-down", "icon-next"})
+        gtk_container_add(GTK_CONTAINER(icons), zo_ui_button24_new(name));
+    for (const char* name : {"suggested-action", "destructive-action"}) {
+        GtkWidget* button = zo_ui_button_new_with_label(name);
+        gtk_style_context_add_class(gtk_widget_get_style_context(button), name);
+        gtk_container_add(GTK_CONTAINER(icons), button);
+    }
+    for (GtkWidget* each : {row, icons}) {
+        zo_window_add_content_child(window, each, false, false, 12, false);
+        gtk_widget_show_all(each);
+    }
 }
 
 void make_windows() {

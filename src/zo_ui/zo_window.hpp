@@ -98,7 +98,8 @@ ZO_EXPORT bool zo_window_set_resizable(zo_window_ptr window, bool value);
 /// @{
 /// Whether the window stays above other windows; default true. zo_window_show() and zo_window_activate()
 /// apply it again. The setter stores `value`.
-/// @state takes effect at the next opening; answers and stores in every state
+/// @state true takes effect at the next opening, showing or activation, false at the next opening; answers
+/// and stores in every state
 ZO_EXPORT bool zo_window_get_keep_above(zo_window_ptr window);
 ZO_EXPORT bool zo_window_set_keep_above(zo_window_ptr window, bool value);
 /// @}
