@@ -54,6 +54,18 @@ class AppindicatorIcon : public testing::Test {
         save_picture(files::path(g_get_user_data_dir()) / "icons/hicolor/48x48/apps/zo-lime.png", lime);
     const std::string path = save_picture(files::path(g_get_user_runtime_dir()) / "magenta.png", magenta);
     test::tray_host host;
+
+    // An icon that comes before the panel is drawn may never get room in it.
+    AppindicatorIcon() {
+        EXPECT_TRUE(test::turn_until([] {
+            GdkWindow* const root = gdk_get_default_root_window();
+            GdkPixbuf* const pixel =
+                gdk_pixbuf_get_from_window(root, 600, gdk_window_get_height(root) - 10, 1, 1);
+            const bool drawn = gdk_pixbuf_read_pixels(pixel)[0] > 0;
+            g_object_unref(pixel);
+            return drawn;
+        }));
+    }
 };
 
 TEST_F(AppindicatorIcon, IsAPictureByItsPath) {
