@@ -49,8 +49,6 @@ bool wake_waiting() {
 
 // Without a bus the icon is made all the same: the indicator library says what is wrong.
 void take_connection(GDBusConnection* connection) {
-    // GIO ends a process whose session bus ends: for an icon that would be too much.
-    if (connection) g_dbus_connection_set_exit_on_close(connection, FALSE);
     all().connection = connection;
     all().bus = bus_state::answered;
 }
