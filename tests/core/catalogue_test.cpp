@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: MIT
 // A damaged catalogue is recognised before gettext follows it.
+#include "support/temporary_folder.hpp"
+
 #include <zo_core/zo_catalogue_p.hpp>
 
 #include <gtest/gtest.h>
 
-#include <unistd.h>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
@@ -61,14 +62,14 @@ TEST(Catalogue, ThatPointsOutsideIsDamaged) {
 }
 
 TEST(Catalogue, OfAnotherLanguageDisturbsNobody) {
-    const fs::path folder = fs::temp_directory_path() / ("zo-catalogue-" + std::to_string(getpid()));
+    const test::temporary_folder temporary;
+    const fs::path& folder = temporary.path();
     fs::create_directories(folder / "de" / "LC_MESSAGES");
     std::ofstream(folder / "de" / "LC_MESSAGES" / "zo.mo") << "noise";
     setenv("LANGUAGE", "pl", 1);
     EXPECT_TRUE(zo::are_catalogues_sound(folder.string(), "zo"));
     setenv("LANGUAGE", "pl:de", 1);
     EXPECT_FALSE(zo::are_catalogues_sound(folder.string(), "zo"));
-    fs::remove_all(folder);
 }
 
 }  // namespace

@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The catalogues are those beside the library, wherever the program stands that uses it.
+#include "support/temporary_folder.hpp"
+
 #include <glib.h>
 #include <gtest/gtest.h>
 
@@ -13,11 +15,8 @@ namespace fs = std::filesystem;
 class LangOutside : public testing::Test {
   protected:
     LangOutside() {
-        std::string pattern = (fs::temp_directory_path() / "zo-lang-XXXXXX").string();
-        folder_ = g_mkdtemp(pattern.data());
         fs::copy_file(fs::path(std::getenv("ZO_BINARY_DIR")) / "bin" / "outside_program", program());
     }
-    ~LangOutside() override { fs::remove_all(folder_); }
 
     fs::path program() const { return folder_ / "program"; }
 
@@ -39,7 +38,8 @@ class LangOutside : public testing::Test {
     }
 
   private:
-    fs::path folder_;
+    const test::temporary_folder temporary_;
+    const fs::path folder_ = temporary_.path();
 };
 
 TEST_F(LangOutside, AProgramElsewhereSpeaksItsUsersLanguage) { EXPECT_EQ(spoken(), "Zurück\n"); }

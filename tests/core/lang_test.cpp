@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The language belongs to the process, so each one has a process of its own.
 #include "core/child_process.hpp"
+#include "support/temporary_folder.hpp"
 
 #include <glib.h>
 #include <gtest/gtest.h>
@@ -178,19 +179,17 @@ TEST(LangChoice, ShippedAreSixteenLanguages) {
 class MovedPrefix : public testing::TestWithParam<const char*> {
   protected:
     MovedPrefix() {
-        std::string pattern = (fs::temp_directory_path() / "zo-lang-XXXXXX").string();
-        prefix_ = g_mkdtemp(pattern.data());
         fs::create_directories(prefix_ / GetParam());
         fs::copy_file(folder("ZO_BINARY_DIR") / "lib" / "libzo_core.so.1",
                       prefix_ / GetParam() / "libzo_core.so.1");
     }
-    ~MovedPrefix() override { fs::remove_all(prefix_); }
 
     texts spoken_there() {
         return only_keys(
             spoken("all", "C.UTF-8", "fr", {{"LD_LIBRARY_PATH", (prefix_ / GetParam()).string()}}));
     }
-    fs::path prefix_;
+    const test::temporary_folder temporary_;
+    const fs::path prefix_ = temporary_.path();
 };
 
 TEST_P(MovedPrefix, HasItsCataloguesBesideTheLibrary) {

@@ -17,12 +17,12 @@ def run(*command):
 
 
 def becomes(seen, wanted, what):
-    """Waits until `seen()` satisfies `wanted`; tells what was seen last."""
+    """Waits until `seen()` satisfies `wanted`; tells what was seen last. Each look asks another process, and waits
+    for its answer."""
     end = time.monotonic() + LIMIT
     while not wanted(value := seen()):
         if time.monotonic() > end:
             raise Failed(f"{what}: {value}")
-        time.sleep(0.03)
     return value
 
 

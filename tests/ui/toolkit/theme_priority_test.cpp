@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // What a sheet of another priority, of the application itself, does to those of the library.
+#include "support/temporary_folder.hpp"
 #include "support/ui.hpp"
 
 #include <filesystem>
@@ -33,15 +34,8 @@ constexpr const char* blue = "rgb(0,0,255)";
 
 class ThemePriority : public testing::Test {
   protected:
-    void SetUp() override {
-        char name[] = "/tmp/zo-theme-XXXXXX";
-        folder_ = mkdtemp(name);
-        zo_theme_set_theme_path(folder_.string() + "/");
-    }
-    void TearDown() override {
-        zo_theme_uninit();
-        fs::remove_all(folder_);
-    }
+    void SetUp() override { zo_theme_set_theme_path(folder_.string() + "/"); }
+    void TearDown() override { zo_theme_uninit(); }
 
     void write(const std::string& file, const std::string& css) {
         fs::create_directories((folder_ / file).parent_path());
@@ -64,7 +58,8 @@ class ThemePriority : public testing::Test {
         return result;
     }
 
-    fs::path folder_;
+    const test::temporary_folder temporary_;
+    const fs::path folder_ = temporary_.path();
 };
 
 // The foreign sheet comes later each time, so that only its priority can make it lose.

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Loading and replacing sheets, seen by the colour that a label gets from them.
+#include "support/temporary_folder.hpp"
 #include "support/ui.hpp"
 
 #include <cstdlib>
@@ -13,8 +14,6 @@ namespace fs = std::filesystem;
 class Theme : public testing::Test {
   protected:
     void SetUp() override {
-        char name[] = "/tmp/zo-theme-XXXXXX";
-        folder_ = mkdtemp(name);
         zo_theme_set_theme_path(folder_.string() + "/");
         label_ = GTK_WIDGET(g_object_ref_sink(gtk_label_new("x")));
         gtk_style_context_add_class(gtk_widget_get_style_context(label_), "theme-test");
@@ -23,7 +22,6 @@ class Theme : public testing::Test {
         zo_theme_uninit();
         gtk_widget_destroy(label_);
         g_object_unref(label_);
-        fs::remove_all(folder_);
     }
 
     void write(const std::string& file, const std::string& css) {
@@ -45,7 +43,8 @@ class Theme : public testing::Test {
         return result;
     }
 
-    fs::path folder_;
+    const test::temporary_folder temporary_;
+    const fs::path folder_ = temporary_.path();
     GtkWidget* label_ = nullptr;
 };
 
