@@ -6,6 +6,7 @@
 #include "workshop.hpp"
 
 #include <cmath>
+#include <cstdio>
 
 using demo::_;
 using demo::N_;
@@ -138,6 +139,7 @@ void save_photo(studio& room, GdkPixbuf* photo) {
         room.shop->photo_folder + "/zo-demo-photo.png";
     GError* error = nullptr;
     gdk_pixbuf_save(photo, file.c_str(), "png", &error, nullptr);
+    if (error) std::remove(file.c_str());  // half a picture is none
     room.shop->log.add("studio",
                        error ? "photo: failed" : "photo: saved");
     say(room, error ? error->message

@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
 // An application that uses everything the library has and does as it is told on its standard input, while
 // faults happen around it. Each command is answered by a line on its standard output.
+#include <zo_ui/platform/linux.hpp>
 #include <zo_ui/zo_ui.hpp>
 
-#include <cstdio>
+#include <gdk/gdkx.h>
+
 #include <iostream>
 #include <map>
 #include <sstream>
@@ -72,6 +74,53 @@ void use_theme(std::istream& words) {
     g_clear_error(&error);
 }
 
+// The X window of the panel: the only popup that is as wide as the screen.
+void tell_panel() {
+    unsigned long found = 0;
+    GList* const all = gtk_window_list_toplevels();
+    for (GList* at = all; at; at = at->next) {
+        GdkWindow* const surface = gtk_widget_get_window(GTK_WIDGET(at->data));
+        if (surface && gtk_window_get_window_type(GTK_WINDOW(at->data)) == GTK_WINDOW_POPUP &&
+            gdk_window_get_width(surface) == zo_ui_screen_width())
+            found = gdk_x11_window_get_xid(surface);
+    }
+    g_list_free(all);
+    answer(std::to_string(found));
+}
+
+// Everything that takes a window of somebody else's, for one that may be gone.
+void query(Display* display, Window id) {
+    std::string name, res_class;
+    get_top_window(display, id);
+    get_named_window(display, id);
+    get_window_class(display, id, name, res_class);
+    get_window_name(display, id, name);
+    getWindowPid(display, id);
+    setActiveWindow(display, id);
+    setActiveWindow(id);
+    HideWindow(id);
+}
+
+void query_all(std::istream& words) {
+    Display* const display = open_display();
+    int count = 0;
+    for (unsigned long id = 0; words >> id; ++count) query(display, id);
+    XCloseDisplay(display);
+    answer("asked about " + std::to_string(count));
+}
+
+// Asks about whatever is active, again and again, and tells how often there was an answer.
+void query_active(std::istream& words) {
+    int times = 0, answered = 0, pid = 0;
+    words >> times;
+    for (int i = 0; i < times; ++i) {
+        unsigned long id = 0;
+        std::string title, name, res_class;
+        answered += getActiveWindowInfo(id, title, name, res_class, pid);
+    }
+    answer(std::to_string(answered));
+}
+
 void translate(std::istream& words) {
     std::string key;
     words >> key;
@@ -87,6 +136,12 @@ void obey(const std::string& line) {
         // After what was posted before.
         return zo_system_service_exec(tell_state, "application", 1);
     }
+    if (command == "panel") return tell_panel();
+    if (command == "screen") return answer(std::to_string(zo_ui_screen_width()));
+    if (command == "extend") return (void)zo_window_manager_extend(manager);
+    if (command == "retract") return (void)zo_window_manager_retract(manager);
+    if (command == "query") return query_all(words);
+    if (command == "active") return query_active(words);
     if (command == "theme") return use_theme(words);
     if (command == "translate") return translate(words);
     if (command == "quit") gtk_main_quit();
@@ -109,8 +164,13 @@ gboolean on_input(GIOChannel* channel, GIOCondition condition, gpointer) {
 int main(int argc, char** argv) {
     gtk_init(&argc, &argv);
     zo_ui_init();
-    const bool bare = argc > 1;
+    const std::string kind = argc > 1 ? argv[1] : "";
+    const bool bare = kind == "bare";
     if (!bare) build();
+    if (kind == "outlive-bus") {
+        GDBusConnection* const bus = g_bus_get_sync(G_BUS_TYPE_SESSION, nullptr, nullptr);
+        g_dbus_connection_set_exit_on_close(bus, FALSE);  // kept: the process has one as long as somebody holds it
+    }
     GIOChannel* input = g_io_channel_unix_new(0);
     g_io_add_watch(input, static_cast<GIOCondition>(G_IO_IN | G_IO_HUP), on_input, nullptr);
     g_io_channel_unref(input);

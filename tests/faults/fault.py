@@ -4,9 +4,17 @@ import os
 import subprocess
 import sys
 import threading
+import time
 import queue
 
 ANSWER_SECONDS = 30
+
+
+def until(seen, wanted, what):
+    """Asks again and again, each time another process, until `seen()` satisfies `wanted`."""
+    end = time.monotonic() + ANSWER_SECONDS
+    while not wanted(value := seen()):
+        assert time.monotonic() < end, f"{what}: {value}"
 
 
 class Application:
@@ -48,6 +56,10 @@ class Application:
     def expect(self, text):
         got = self.answer()
         assert got == text, f"{got!r} instead of {text!r}; it said {self.complaints}"
+
+    def kill(self):
+        self.process.kill()
+        self.process.wait()
 
     def expect_alive(self, closed):
         """Uses everything once and looks at the state afterwards."""
