@@ -3,6 +3,13 @@
 
 #include <glib.h>
 
+#include <cstdlib>
+
+std::chrono::milliseconds test::patience() {
+    const char* const given = std::getenv("ZO_TEST_PATIENCE");
+    return std::chrono::milliseconds(given ? std::atoi(given) : 20000);
+}
+
 bool test::turn_until(const std::function<bool()>& done, std::chrono::milliseconds limit) {
     const auto end = std::chrono::steady_clock::now() + limit;
     while (!done()) {

@@ -7,9 +7,11 @@
 
 namespace test {
 
+// How long a test waits for what must come: 20 s, or ZO_TEST_PATIENCE in milliseconds for who expects failures.
+std::chrono::milliseconds patience();
+
 // Turns the loop until `done` holds; false when it does not within the limit, which only a failure reaches.
-bool turn_until(const std::function<bool()>& done,
-                std::chrono::milliseconds limit = std::chrono::seconds(20));
+bool turn_until(const std::function<bool()>& done, std::chrono::milliseconds limit = patience());
 
 // Runs every task that is queued, and those they post, until the queue is empty.
 void run_tasks();

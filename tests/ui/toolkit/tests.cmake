@@ -7,10 +7,4 @@ zo_ui_inner_test(toolkit/trampolines_test)
 # Before zo_ui_init, and without any display.
 zo_ui_test(toolkit/unprepared_test toolkit/exit_test)
 zo_test(displayless_test FILES ui/toolkit/displayless_test.cpp LIBRARIES zo_ui PkgConfig::GTK3)
-
-# Once more on a screen with two device pixels to a pixel.
-foreach(wm openbox none)
-  add_test(NAME screen_test.scale2.${wm}
-    COMMAND ${session} -w ${wm} -- ${ENV_PROGRAM} ${test_environment} GDK_SCALE=2 $<TARGET_FILE:screen_test>)
-  set_tests_properties(screen_test.scale2.${wm} PROPERTIES TIMEOUT 300)
-endforeach()
+zo_test_at_scale_2(screen_test)

@@ -21,12 +21,5 @@ tree_test(window_tree_test window_tree_popup_test window_tree_toplevel_test wind
 zo_ui_inner_test(window/window_drag_target_test)
 target_link_libraries(window_drag_target_test PRIVATE window_tree_support)
 
-# Once more on a screen with two device pixels to a pixel.
-foreach(name window_photo_test window_tool_menu_test window_tool_menu_place_test window_drag_test window_maximise_test
-    window_move_test window_place_test)
-  foreach(wm openbox none)
-    add_test(NAME ${name}.scale2.${wm}
-      COMMAND ${session} -w ${wm} -- ${ENV_PROGRAM} ${test_environment} GDK_SCALE=2 $<TARGET_FILE:${name}>)
-    set_tests_properties(${name}.scale2.${wm} PROPERTIES TIMEOUT 300)
-  endforeach()
-endforeach()
+zo_test_at_scale_2(window_photo_test window_tool_menu_test window_tool_menu_place_test window_drag_test
+  window_maximise_test window_move_test window_place_test)
