@@ -102,6 +102,12 @@ class Abi(unittest.TestCase):
         self.assertFalse(passed)
         self.assertIn("_zo_object", output)
 
+    def test_a_named_difference_hides_no_other(self):
+        self.edit("core.symbols", r"^zo_get_unique_id\(\)\n", "")
+        self.edit("core.abi", r"(<class-decl name='_zo_object' size-in-bits=')\d+", r"\g<1>64")
+        self.write_changelog("`zo_get_unique_id`")
+        self.assertFalse(self.check()[0])
+
     def test_a_missing_baseline_fails(self):
         (self.baseline / "core.abi").unlink()
         self.assertFalse(self.check()[0])
