@@ -101,13 +101,14 @@ def draw(shot, top, boxes, target):
     subprocess.run(command + ["-crop", f"{width}x{height}+{x}+{y}", "+repage", "-strip", target], check=True)
 
 
-def still(file):
-    """Takes screenshots until two in a row are the same."""
+def still(file, unlike=None):
+    """Takes screenshots until two in a row are the same, and other than one before."""
     before, end = None, time.monotonic() + 20
-    while (now := capture(file)) != before:
+    while (now := capture(file)) != before or now == unlike:
         if time.monotonic() > end:
             sys.exit("widgets: the screen never comes to rest")
         before = now
+    return now
 
 
 def capture(file):
@@ -123,11 +124,11 @@ def main(program, folder):
                                env=dict(os.environ, G_DEBUG="fatal-warnings"))
     subprocess.run(["timeout", "20", "xdotool", "search", "--sync", "--onlyvisible", "--class", "widget_map"],
                    check=True, stdout=subprocess.DEVNULL)
+    shown = None
     for state, command in (("1-locked", ""), ("2-menu", "menu\n"), ("3-unlocked", "unlock\n")):
-        still(folder / f"{state}.png")
         process.stdin.write(command)
         process.stdin.flush()
-        still(folder / f"{state}.png")
+        shown = still(folder / f"{state}.png", unlike=shown)
         process.stdin.write("map\n")
         process.stdin.flush()
         lines = []
