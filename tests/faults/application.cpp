@@ -169,7 +169,8 @@ int main(int argc, char** argv) {
     if (!bare) build();
     if (kind == "outlive-bus") {
         GDBusConnection* const bus = g_bus_get_sync(G_BUS_TYPE_SESSION, nullptr, nullptr);
-        g_dbus_connection_set_exit_on_close(bus, FALSE);  // kept: the process has one as long as somebody holds it
+        g_dbus_connection_set_exit_on_close(bus,
+                                            FALSE);  // kept: the process has one as long as somebody holds it
     }
     GIOChannel* input = g_io_channel_unix_new(0);
     g_io_add_watch(input, static_cast<GIOCondition>(G_IO_IN | G_IO_HUP), on_input, nullptr);

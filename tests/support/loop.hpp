@@ -7,7 +7,8 @@
 
 namespace test {
 
-// How long a test waits for what must come: 20 s, or ZO_TEST_PATIENCE in milliseconds for who expects failures.
+// How long a test waits for what must come: 20 s, or ZO_TEST_PATIENCE in milliseconds for who expects
+// failures.
 std::chrono::milliseconds patience();
 
 // Turns the loop until `done` holds; false when it does not within the limit, which only a failure reaches.

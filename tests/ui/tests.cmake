@@ -33,6 +33,6 @@ include(ui/window_manager/tests.cmake)
 include(ui/notification/tests.cmake)
 include(ui/appindicator/tests.cmake)
 
-zo_ui_test(describe_test inspector_test)
+zo_ui_test(describe_test inspector_test long_texts_test)
 zo_test(virtual_ends_test FILES ui/virtual_ends_test.cpp
   LIBRARIES zo_ui_objects PkgConfig::APPINDICATOR PkgConfig::X11 PkgConfig::XMU)

@@ -11,6 +11,7 @@
 
 #include <zo_core/zo_diagnostics_p.hpp>
 #include <zo_ui/platform/linux/on_top_p.hpp>
+#include <zo_ui/toolkit/long_text_p.hpp>
 #include <zo_ui/toolkit/style_p.hpp>
 #include <zo_ui/zo_notification/notification_stack_p.hpp>
 #include <zo_ui/zo_ui_connect.hpp>
@@ -29,6 +30,7 @@ constexpr int title_height = 16;
 constexpr int content_spacing = 4;
 constexpr int content_padding = 20;
 constexpr int content_characters = 30;
+constexpr int most_lines = 20;       // of a content that is higher than the desktop
 constexpr int line_characters = 48;  // of the title, and of all actions together
 
 GtkWidget* box_new(GtkOrientation orientation, int spacing, const char* style_class) {
@@ -65,10 +67,13 @@ GtkWidget* toplevel_new(const std::string& title) {
 
 // A longer text ends in an ellipsis, instead of widening the popup, and is told whole by the tooltip.
 void shorten(GtkWidget* label, int characters) {
-    const char* text = gtk_label_get_text(GTK_LABEL(label));
+    const std::string text = gtk_label_get_text(GTK_LABEL(label));
+    if (const std::string title = zo::as_title(text); title != text)
+        gtk_label_set_text(GTK_LABEL(label), title.c_str());
     gtk_label_set_ellipsize(GTK_LABEL(label), PANGO_ELLIPSIZE_END);
     gtk_label_set_max_width_chars(GTK_LABEL(label), characters);
-    if (g_utf8_strlen(text, -1) > characters) gtk_widget_set_tooltip_text(label, text);
+    if (g_utf8_strlen(text.c_str(), -1) > characters)
+        gtk_widget_set_tooltip_text(label, zo::as_tooltip(text).c_str());
 }
 
 // Words stay whole unless one is wider than the popup, which it would stretch beyond its place.
@@ -137,6 +142,7 @@ void _zo_notification::build_content(const zo::notification_text& text) {
     gtk_label_set_xalign(label, 0);
     zo::add_class(widgets_.content_label, "content-text");
     fill_content_label(text);
+    zo::keep_on_desktop(widgets_.content_label, most_lines);
     break_long_words(widgets_.content_label);
     zo_ui_connect_label_link_activate(widgets_.content_label, [self = handle()](GtkLabel*, std::string& uri) {
         return self->on_link(uri);

@@ -128,6 +128,7 @@ class _zo_window : public _zo_object {
     // Title bar, window_title_bar.cpp and window_title_actions.cpp.
     void build_title_bar(const zo::window_settings& settings);
     void pack_title_label(const char* style_class, const std::string& title);
+    void show_title(const std::string& title);
     void pack_title_button(const zo::window_title_row& row);
     click_handler bind_click(void (_zo_window::*action)());
     void call_back(const char* property);

@@ -78,7 +78,7 @@ void _zo_window::apply_title(const std::string&, const std::string&) {
         zo::property_guard guard(*this, source::file, source::text_task);
         guard.read("window-title-text", present, {"&title"});
     }
-    gtk_label_set_text(GTK_LABEL(widgets_.title_label), zo::readable(present).c_str());
+    show_title(present);
 }
 
 void _zo_window::set_id(std::string s) { post_text_change(zo::window_text::id, std::move(s)); }

@@ -2,6 +2,7 @@
 // Building the built-in title bar.
 #include <zo_ui/zo_window/window_p.hpp>
 
+#include <zo_ui/toolkit/long_text_p.hpp>
 #include <zo_ui/toolkit/style_p.hpp>
 #include <zo_ui/toolkit/trampolines_p.hpp>
 #include <zo_ui/zo_ui_tools.hpp>
@@ -50,9 +51,27 @@ void _zo_window::build_title_bar(const zo::window_settings& settings) {
 }
 
 void _zo_window::pack_title_label(const char* style_class, const std::string& title) {
-    widgets_.title_label = gtk_label_new(zo::readable(title).c_str());
+    widgets_.title_label = gtk_label_new(nullptr);
     zo::add_class(widgets_.title_label, style_class);
     gtk_box_set_center_widget(GTK_BOX(widgets_.title_box), widgets_.title_label);
+    show_title(title);
+}
+
+// A title makes its window as wide as it is, unless it would be wider than the desktop: the tooltip tells it
+// then.
+void _zo_window::show_title(const std::string& title) {
+    GtkWidget* const widget = widgets_.title_label;
+    auto* const label = GTK_LABEL(widget);
+    if (gtk_label_get_ellipsize(label) != PANGO_ELLIPSIZE_NONE) {
+        gtk_label_set_ellipsize(label, PANGO_ELLIPSIZE_NONE);
+        gtk_label_set_max_width_chars(label, -1);
+        gtk_widget_set_tooltip_text(widget, nullptr);
+    }
+    const std::string text = zo::readable(title);
+    gtk_label_set_text(label, text.c_str());
+    zo::keep_on_desktop(widget, 1);
+    if (gtk_label_get_ellipsize(label) != PANGO_ELLIPSIZE_NONE)
+        gtk_widget_set_tooltip_text(widget, zo::as_tooltip(text).c_str());
 }
 
 void _zo_window::pack_title_button(const zo::window_title_row& row) {

@@ -3,6 +3,7 @@
 #include <zo_ui/zo_window_manager/manager_p.hpp>
 
 #include <zo_core/zo_diagnostics.hpp>
+#include <zo_ui/toolkit/long_text_p.hpp>
 #include <zo_ui/toolkit/style_p.hpp>
 #include <zo_ui/zo_ui_connect.hpp>
 #include <zo_ui/zo_ui_tools.hpp>
@@ -35,12 +36,12 @@ task_text text_of(const zo_window_ptr& window) {
 // GTK makes a new label for each text.
 void set_title(GtkWidget* button, const std::string& text) {
     const std::string title = zo::readable(text);
-    gtk_button_set_label(GTK_BUTTON(button), title.c_str());
+    gtk_button_set_label(GTK_BUTTON(button), zo::as_title(title).c_str());
     if (GtkWidget* label = gtk_bin_get_child(GTK_BIN(button)); GTK_IS_LABEL(label)) {
         gtk_label_set_ellipsize(GTK_LABEL(label), PANGO_ELLIPSIZE_END);
         gtk_label_set_max_width_chars(GTK_LABEL(label), longest_title);
     }
-    gtk_widget_set_tooltip_text(button, title.c_str());
+    gtk_widget_set_tooltip_text(button, zo::as_tooltip(title).c_str());
     atk_object_set_name(gtk_widget_get_accessible(button), title.c_str());
 }
 
