@@ -43,6 +43,7 @@ TEST_F(Screens, EveryScreensRootIsARoot) {
     test::watch_requests(asking, nullptr);
     EXPECT_EQ(get_top_window(asking, owner.root()), 0U);
     EXPECT_EQ(test::watched_requests(), 0);
+    test::stop_watching_requests();
 }
 
 TEST_F(Screens, ActivatingAsksTheDefaultScreensManager) {

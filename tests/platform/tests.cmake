@@ -2,7 +2,8 @@
 add_executable(platform_window_maker platform/window_maker.cpp)
 target_link_libraries(platform_window_maker PRIVATE PkgConfig::X11)
 
-add_library(platform_support STATIC platform/foreign_window.cpp platform/private_server.cpp platform/x_client.cpp)
+add_library(platform_support STATIC platform/foreign_window.cpp platform/private_server.cpp platform/x_client.cpp
+  support/x_wire.cpp)
 target_compile_definitions(platform_support PRIVATE WINDOW_MAKER="$<TARGET_FILE:platform_window_maker>")
 target_include_directories(platform_support PUBLIC ${CMAKE_CURRENT_SOURCE_DIR})
 target_link_libraries(platform_support PUBLIC PkgConfig::X11)
@@ -27,8 +28,8 @@ zo_test(platform_pointer_nowhere_test FILES platform/pointer_nowhere_test.cpp ${
 zo_test(platform_screens_test FILES platform/screens_test.cpp ${from_objects})
 zo_test(platform_errors_test FILES platform/errors_test.cpp ${from_objects} SESSIONS none)
 zo_test(platform_vanish_test FILES platform/vanish_test.cpp platform/opened_connection.cpp ${from_objects} SESSIONS none)
-zo_test(platform_round_trips_test FILES platform/round_trips_test.cpp platform/opened_connection.cpp ${from_objects}
-  SESSIONS none openbox jwm)
+zo_test(platform_round_trips_test FILES platform/round_trips_test.cpp ${from_library}
+  SESSIONS none openbox jwm icewm)
 
 set(platform_dir ${PROJECT_SOURCE_DIR}/src/zo_ui/platform/linux)
 zo_test(platform_fatal_test
