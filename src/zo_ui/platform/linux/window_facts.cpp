@@ -30,9 +30,9 @@ name_request::name_request(Display* display, Window window)
 
 bool name_request::answer(std::string& name) {
     x_property property = property_.answer();
-    // Xlib converts nothing else.
-    if (property.type == None || property.format != 8) return false;
+    if (property.type == None) return false;
     const error_trap trap(display_);
+    // Of items that are no bytes Xlib only wants to know whether there are any.
     const XTextProperty text{reinterpret_cast<unsigned char*>(property.bytes.data()), property.type,
                              property.format, property.bytes.size()};
     char** strings = nullptr;
