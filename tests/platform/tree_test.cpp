@@ -57,7 +57,11 @@ TEST_F(Tree, TheTopOfADeepWindowIsItsAncestorBelowTheRoot) {
     const Window deep = owner.make(middle);
     owner.make(deep);
     EXPECT_EQ(get_top_window(asking, deep), top);
-    EXPECT_EQ(round_trips_of([&] { get_top_window(asking, deep); }), 3);
+    test::watch_requests(asking, nullptr);
+    EXPECT_EQ(get_top_window(asking, deep), top);
+    EXPECT_EQ(test::watched_requests(), 3);
+    EXPECT_EQ(test::watched_round_trips(), 3);
+    test::stop_watching_requests();
 }
 
 TEST_F(Tree, NoWindowThePointersRootAndTheRootHaveNoTopAndAreNotAskedFor) {
