@@ -8,7 +8,7 @@ ROWS = [
          Metric("requests", "", [], counted=True),
          Metric("us", "us"),
          Metric("cpu_us", "us")],
-        """Waiting dominates: each round trip is a change to the server and back, worth some fifty of its answers. Ours waits
+        """Waiting dominates: each round trip is a change to the server and back, as dear as several of its answers. Ours waits
 twelve times: six times while Xlib opens the connection and once while it closes it, and five times for the question (the
 focus with the atoms, the client, its frame, the state of the frame's children, the client's name, class and process).
 The floor waits as often for the question, but XCB opens in one round trip and closes in none; a title in any encoding

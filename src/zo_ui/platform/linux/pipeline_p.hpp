@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Requests whose answers are awaited later, so that many are on their way at once: a wait for the server
-// costs as much as some fifty answers. XCB hands the error of such a request to who awaits the answer and to
+// costs as much as several answers. XCB hands the error of such a request to who awaits the answer and to
 // nobody else, in whatever thread.
 #pragma once
 
