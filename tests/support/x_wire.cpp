@@ -58,7 +58,7 @@ std::size_t length_of(std::string_view request) {
     std::memcpy(&units, request.data() + 2, sizeof units);
     if (request[0] == 'l' && units == 11) return request.size();
     if (units == 0 && request.size() >= 8) std::memcpy(&long_units, request.data() + 4, sizeof long_units);
-    return 4 * (units != 0 ? std::size_t{units} : std::size_t{long_units});
+    return 4 * std::max<std::size_t>(1, units != 0 ? units : long_units);
 }
 
 // The bytes up to the end of the request that they begin with or go on with.
