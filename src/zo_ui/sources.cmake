@@ -1,8 +1,10 @@
 zo_library(zo_ui
   SOURCES
     zo_ui/platform/linux/active_window.cpp
+    zo_ui/platform/linux/client_search.cpp
     zo_ui/platform/linux/connection.cpp
     zo_ui/platform/linux/on_top.cpp
+    zo_ui/platform/linux/pipeline.cpp
     zo_ui/platform/linux/pointer.cpp
     zo_ui/platform/linux/search.cpp
     zo_ui/platform/linux/steering.cpp

@@ -80,18 +80,18 @@ TEST_F(Errors, TheCallersErrorsReachTheHandler) {
 TEST_F(Errors, ATrapTakesWhatIsAskedAfterItsBeginning) {
     using zo::platform::error_trap;
     XSync(asking, False);
-    EXPECT_FALSE(error_trap::takes(asking, X_QueryTree));
+    EXPECT_FALSE(error_trap::takes(asking, X_InternAtom));
     {
         const error_trap outer(asking, zo::platform::trapped::everything);
-        EXPECT_FALSE(error_trap::takes(asking, X_QueryTree));
+        EXPECT_FALSE(error_trap::takes(asking, X_InternAtom));
         XSync(asking, False);
         const error_trap inner(asking);
-        EXPECT_TRUE(error_trap::takes(asking, X_QueryTree)) << "by the outer one";
+        EXPECT_TRUE(error_trap::takes(asking, X_InternAtom)) << "by the outer one";
         EXPECT_TRUE(error_trap::takes(asking, X_UnmapWindow));
-        EXPECT_FALSE(error_trap::takes(owner, X_QueryTree));
-        std::thread([&] { EXPECT_FALSE(error_trap::takes(asking, X_QueryTree)); }).join();
+        EXPECT_FALSE(error_trap::takes(owner, X_InternAtom));
+        std::thread([&] { EXPECT_FALSE(error_trap::takes(asking, X_InternAtom)); }).join();
     }
-    EXPECT_FALSE(error_trap::takes(asking, X_QueryTree));
+    EXPECT_FALSE(error_trap::takes(asking, X_InternAtom));
 }
 
 TEST_F(Errors, AConnectionIsPreparedOnce) {

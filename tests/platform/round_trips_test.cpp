@@ -1,59 +1,97 @@
 // SPDX-License-Identifier: MIT
 // How often getActiveWindowInfo waits for the server; docs/desktop-queries.md tells the figures.
 #include "support/loop.hpp"
+#include "support/x_wire.hpp"
 
 #include <gtest/gtest.h>
 #include <zo_ui/platform/linux.hpp>
 
 #include "platform/foreign_window.hpp"
-#include "platform/opened_connection.hpp"
 #include "platform/x_client.hpp"
 
 #include <iostream>
 
 namespace {
 
-// Requests between opening and closing the connection, each of which waits for its reply.
-unsigned long requests_of_info() {
-    static unsigned long first, last;
-    const test::opened_connection opened([](Display* display) {
-        first = XNextRequest(display);
-        test::watch_requests(display, [display](int) { last = XNextRequest(display); });
-    });
+int of_opening_and_closing() {
+    const test::x_wire wire;
+    XCloseDisplay(open_display());
+    return wire.round_trips();
+}
+
+struct cost {
+    int round_trips, requests;
+};
+
+cost of_info() {
+    const test::x_wire wire;
     unsigned long window = 0;
     std::string title, res_name, res_class;
     int pid = 0;
     EXPECT_TRUE(getActiveWindowInfo(window, title, res_name, res_class, pid));
-    // The last one that is seen is not of the query: closing frees the connection's graphics context.
-    return last - first - 1;
+    return {wire.round_trips(), wire.requests()};
 }
 
-unsigned int children_of(Display* display, Window window) {
+// From a window to its top, both counted.
+int steps_to_top(Display* display, Window window) {
     Window root = 0, parent = 0, *children = nullptr;
     unsigned int count = 0;
     EXPECT_TRUE(XQueryTree(display, window, &root, &parent, &children, &count));
     if (children) XFree(children);
-    return count;
+    return parent == root || parent == 0 ? 1 : 1 + steps_to_top(display, parent);
 }
 
-TEST(RoundTrips, AsManyAsTheWalkNeeds) {
-    test::x_client owner;
-    const test::foreign_window window({"title=name", "class=a,B", "pid=4711"});
-    if (test::window_manager() == "none") {
-        XReparentWindow(owner, window.id(), owner.make_viewable(), 0, 0);
-        owner.set_longs(window.id(), "WM_STATE", "WM_STATE", {1, 0});
-        owner.focus(window.id());
+class RoundTrips : public testing::Test {
+  protected:
+    void activate(Window window) {
+        if (test::window_manager() == "none") {
+            XReparentWindow(owner, window, owner.make_viewable(), 0, 0);
+            owner.set_longs(window, "WM_STATE", "WM_STATE", {1, 0});
+            owner.focus(window);
+        }
+        EXPECT_TRUE(setActiveWindow(window));
+        ASSERT_TRUE(test::turn_until([&] { return getActiveWindow() == window; }));
     }
-    EXPECT_TRUE(setActiveWindow(window.id()));
-    ASSERT_TRUE(test::turn_until([&] { return getActiveWindow() == window.id(); }));
-    const unsigned int children = children_of(owner, get_top_window(owner, window.id()));
-    const unsigned long requests = requests_of_info();
-    std::cout << test::window_manager() << ": " << requests << " round trips, " << children
-              << " children of the frame" << std::endl;
-    // The focus, two steps to the top, the state's atom, the frame's state and children; then the state of
-    // the children up to the client; then name, class, and the process id with its atom.
-    EXPECT_GE(requests, 6U + 1U + 4U);
-    EXPECT_LE(requests, 6U + children + 4U);
+
+    test::x_client owner;
+};
+
+TEST_F(RoundTrips, AsManyAsTheTreeHasLevels) {
+    const test::foreign_window window({"title=name", "type=UTF8_STRING", "class=a,B", "pid=4711"});
+    activate(window.id());
+    const int steps = steps_to_top(owner, window.id());
+    const int info = of_info().round_trips;
+    const int connection = of_opening_and_closing();
+    std::cout << test::window_manager() << ": " << info << " round trips, " << connection
+              << " of them for the connection; " << steps << " windows from the client to its frame"
+              << std::endl;
+    // The focus, each step to the top, each level from the frame down to the client, and its facts.
+    EXPECT_EQ(info - connection, 1 + steps + (steps - 1) + 1);
+    EXPECT_LE(info, 15);
+}
+
+TEST_F(RoundTrips, OneMoreForAFocusedWindowInTheClient) {
+    const test::foreign_window window({"title=name", "class=a,B", "pid=4711"});
+    activate(window.id());
+    const int before = of_info().round_trips;
+    owner.focus(owner.make_viewable(window.id()));
+    const int info = of_info().round_trips;
+    EXPECT_EQ(info, before + 1);
+    EXPECT_LE(info, 15);
+}
+
+TEST_F(RoundTrips, APartOfTheFrameCostsOneRequestAndNoRoundTrip) {
+    if (test::window_manager() != "none") return;
+    const test::foreign_window window({"title=name", "class=a,B", "pid=4711"});
+    activate(window.id());
+    const cost before = of_info();
+    const Window frame = get_top_window(owner, window.id());
+    for (int i = 0; i < 200; ++i) XLowerWindow(owner, owner.make(owner.make(frame)));
+    XRaiseWindow(owner, window.id());
+    XSync(owner, False);
+    const cost after = of_info();
+    EXPECT_EQ(after.round_trips, before.round_trips);
+    EXPECT_EQ(after.requests, before.requests + 200) << "what is below the parts is not asked for";
 }
 
 }  // namespace

@@ -43,6 +43,7 @@ TEST_F(Screens, EveryScreensRootIsARoot) {
     test::watch_requests(asking, nullptr);
     EXPECT_EQ(get_top_window(asking, owner.root()), 0U);
     EXPECT_EQ(test::watched_requests(), 0);
+    test::stop_watching_requests();
 }
 
 TEST_F(Screens, ActivatingAsksTheDefaultScreensManager) {
@@ -66,6 +67,10 @@ TEST_F(Screens, ANameThatTheServerDoesNotKnowIsNotMadeKnownByAsking) {
     const test::x_client asking;
     EXPECT_EQ(getWindowPid(asking, asking.root()), 0);
     EXPECT_EQ(XInternAtom(asking, "_NET_WM_PID", True), Atom{None});
+    test::watch_requests(asking, nullptr);
+    EXPECT_EQ(get_named_window(asking, asking.root()), 0U);
+    EXPECT_EQ(test::watched_round_trips(), 1) << "no window can have a state that is not known";
+    test::stop_watching_requests();
 }
 
 }  // namespace

@@ -2,7 +2,8 @@
 add_executable(platform_window_maker platform/window_maker.cpp)
 target_link_libraries(platform_window_maker PRIVATE PkgConfig::X11)
 
-add_library(platform_support STATIC platform/foreign_window.cpp platform/private_server.cpp platform/x_client.cpp)
+add_library(platform_support STATIC platform/foreign_window.cpp platform/private_server.cpp platform/x_client.cpp
+  support/x_wire.cpp)
 target_compile_definitions(platform_support PRIVATE WINDOW_MAKER="$<TARGET_FILE:platform_window_maker>")
 target_include_directories(platform_support PUBLIC ${CMAKE_CURRENT_SOURCE_DIR})
 target_link_libraries(platform_support PUBLIC PkgConfig::X11)
@@ -12,6 +13,7 @@ add_dependencies(platform_support platform_window_maker)
 set(from_library LIBRARIES platform_support zo_ui)
 zo_test(platform_tree_test FILES platform/tree_test.cpp ${from_library} SESSIONS none)
 zo_test(platform_facts_test FILES platform/facts_test.cpp ${from_library} SESSIONS none openbox)
+zo_test(platform_facts_reference_test FILES platform/facts_reference_test.cpp ${from_library} SESSIONS none)
 zo_test(platform_framed_test FILES platform/framed_test.cpp ${from_library} SESSIONS openbox)
 zo_test(platform_unframed_test FILES platform/unframed_test.cpp ${from_library} SESSIONS none jwm)
 zo_test(platform_messages_test FILES platform/messages_test.cpp ${from_library} SESSIONS none)
@@ -26,9 +28,12 @@ zo_test(platform_pointer_test FILES platform/pointer_test.cpp ${from_objects} SE
 zo_test(platform_pointer_nowhere_test FILES platform/pointer_nowhere_test.cpp ${from_objects} SESSIONS none)
 zo_test(platform_screens_test FILES platform/screens_test.cpp ${from_objects})
 zo_test(platform_errors_test FILES platform/errors_test.cpp ${from_objects} SESSIONS none)
+zo_test(platform_client_search_test FILES platform/client_search_test.cpp platform/random_tree.cpp
+  ${from_objects} PkgConfig::XMU SESSIONS none)
+zo_test(platform_pipeline_test FILES platform/pipeline_test.cpp ${from_objects} SESSIONS none)
 zo_test(platform_vanish_test FILES platform/vanish_test.cpp platform/opened_connection.cpp ${from_objects} SESSIONS none)
-zo_test(platform_round_trips_test FILES platform/round_trips_test.cpp platform/opened_connection.cpp ${from_objects}
-  SESSIONS none openbox jwm)
+zo_test(platform_round_trips_test FILES platform/round_trips_test.cpp ${from_library}
+  SESSIONS none openbox jwm icewm)
 
 set(platform_dir ${PROJECT_SOURCE_DIR}/src/zo_ui/platform/linux)
 zo_test(platform_fatal_test

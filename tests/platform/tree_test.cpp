@@ -12,13 +12,14 @@ class Tree : public testing::Test {
   protected:
     ~Tree() override { EXPECT_EQ(errors.count(), 0); }
 
-    // How many requests the call makes on the asking connection.
+    // How often the call waits for the server on the asking connection.
     template <typename Call>
-    int requests_of(Call call) {
+    int round_trips_of(Call call) {
         test::watch_requests(asking, nullptr);
         call();
-        test::stop_watching_requests(asking);
-        return test::watched_requests();
+        const int round_trips = test::watched_round_trips();
+        test::stop_watching_requests();
+        return round_trips;
     }
 
     test::counted_errors errors;
@@ -56,16 +57,20 @@ TEST_F(Tree, TheTopOfADeepWindowIsItsAncestorBelowTheRoot) {
     const Window deep = owner.make(middle);
     owner.make(deep);
     EXPECT_EQ(get_top_window(asking, deep), top);
-    EXPECT_EQ(requests_of([&] { get_top_window(asking, deep); }), 3);
+    test::watch_requests(asking, nullptr);
+    EXPECT_EQ(get_top_window(asking, deep), top);
+    EXPECT_EQ(test::watched_requests(), 3);
+    EXPECT_EQ(test::watched_round_trips(), 3);
+    test::stop_watching_requests();
 }
 
 TEST_F(Tree, NoWindowThePointersRootAndTheRootHaveNoTopAndAreNotAskedFor) {
-    const int requests = requests_of([&] {
+    const int round_trips = round_trips_of([&] {
         EXPECT_EQ(get_top_window(asking, 0), 0U);
         EXPECT_EQ(get_top_window(asking, 1), 0U);
         EXPECT_EQ(get_top_window(asking, asking.root()), 0U);
     });
-    EXPECT_EQ(requests, 0);
+    EXPECT_EQ(round_trips, 0);
 }
 
 TEST_F(Tree, AWindowThatIsGoneHasNoTop) {
@@ -125,10 +130,10 @@ TEST_F(Tree, WithoutAFrameThereIsNoActiveWindow) {
     EXPECT_EQ(getActiveWindow(), 0U);
 }
 
-TEST_F(Tree, TheFocusOnNothingOrOnARootIsNoActiveWindowAfterOneRequest) {
+TEST_F(Tree, TheFocusOnNothingOrOnARootIsNoActiveWindowAfterOneRoundTrip) {
     for (const Window focused : {Window{None}, Window{PointerRoot}, owner.root()}) {
         owner.focus(focused);
-        EXPECT_EQ(requests_of([&] { EXPECT_EQ(getActiveWindow(asking), 0U); }), 1);
+        EXPECT_EQ(round_trips_of([&] { EXPECT_EQ(getActiveWindow(asking), 0U); }), 1);
         EXPECT_EQ(getActiveWindow(), 0U);
     }
 }

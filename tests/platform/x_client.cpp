@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "platform/x_client.hpp"
 
+#include "support/x_wire.hpp"
+
 #include <atomic>
 #include <cstdlib>
+#include <optional>
 
 namespace {
 
@@ -13,14 +16,7 @@ int on_error(Display*, XErrorEvent*) {
     return 0;
 }
 
-std::function<void(int)> after_request;
-int requests = 0;
-
-int on_request(Display*) {
-    ++requests;
-    if (after_request) after_request(requests);
-    return 0;
-}
+std::optional<test::x_wire> wire;
 
 }  // namespace
 
@@ -103,14 +99,15 @@ test::counted_errors::~counted_errors() { XSetErrorHandler(before_); }
 int test::counted_errors::count() const { return errors; }
 
 void test::watch_requests(Display* display, std::function<void(int)> action) {
-    requests = 0;
-    after_request = std::move(action);
-    XSetAfterFunction(display, on_request);
+    wire.emplace(ConnectionNumber(display));
+    if (action) wire->after_each_request(std::move(action));
 }
 
-void test::stop_watching_requests(Display* display) { XSetAfterFunction(display, nullptr); }
+void test::stop_watching_requests() { wire.reset(); }
 
-int test::watched_requests() { return requests; }
+int test::watched_requests() { return wire->requests(); }
+
+int test::watched_round_trips() { return wire->round_trips(); }
 
 std::string test::window_manager() {
     const char* name = std::getenv("ZO_SESSION_WM");

@@ -56,13 +56,14 @@ class counted_errors {
     XErrorHandler before_;
 };
 
-// From now on `action` runs after each request that is made on the connection, with the number of requests
-// since then. One connection at a time; until it is closed or stop_watching_requests.
+// From now on the connection's requests and round trips are counted, and `action` runs after each request is
+// sent, before the next one is and before any reply is read, with the number of requests since then. One
+// connection at a time; until stop_watching_requests.
 void watch_requests(Display* display, std::function<void(int)> action);
-void stop_watching_requests(Display* display);
+void stop_watching_requests();
 
-// The number of requests made on the watched connection.
 int watched_requests();
+int watched_round_trips();
 
 // What a test's session says its window manager is; "none" without one.
 std::string window_manager();

@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include <zo_ui/platform/linux/search_p.hpp>
 
-#include <zo_ui/platform/linux/connection_p.hpp>
+#include <zo_ui/platform/linux/pipeline_p.hpp>
 
-using zo::platform::error_trap;
-using zo::platform::x_memory;
+using zo::platform::place_request;
 
 namespace {
 
@@ -16,14 +15,8 @@ struct wanted {
 Window search(Display* display, Window window, const wanted& what);
 
 Window search_children(Display* display, Window window, const wanted& what) {
-    Window root = 0;
-    Window parent = 0;
-    Window* children = nullptr;
-    unsigned int count = 0;
-    if (!XQueryTree(display, window, &root, &parent, &children, &count)) return 0;
-    const x_memory<Window> owned(children);
-    for (unsigned int i = 0; i < count; ++i)
-        if (const Window found = search(display, children[i], what)) return found;
+    for (const Window child : place_request(display, window).answer().children)
+        if (const Window found = search(display, child, what)) return found;
     return 0;
 }
 
@@ -41,7 +34,6 @@ Window search(Display* display, Window window, const wanted& what) {
 
 Window find_window_by_class(Display* display, Window window, const char* res_name, const char* res_class) {
     if (!display) return 0;
-    const error_trap trap(display);
     const wanted what{res_name, res_class};
     // 0 stands for the root, which then counts as its own top; a root that is named has none.
     if (window == 0) return search(display, DefaultRootWindow(display), what);

@@ -15,19 +15,11 @@
 namespace zo::platform {
 namespace {
 
-// Requests that this module makes on a caller's connection and that can fail. All have replies, and Xlib
-// gives their errors only to the thread that waits for the reply: with no lock on the connection, an error of
-// this kind that arrives while a trap's thread waits is that of the trap's own request.
-bool is_query(int major_code) {
-    switch (major_code) {
-        case X_GetProperty:
-        case X_InternAtom:
-        case X_QueryTree:
-            return true;
-        default:
-            return false;
-    }
-}
+// What this module asks by Xlib on a caller's connection, and that can fail, when the server is out of
+// memory. The rest it asks by XCB, whose errors never come here. It has a reply, and Xlib gives its error
+// only to the thread that waits for the reply: with no lock on the connection, an error of this kind that
+// arrives while a trap's thread waits is that of the trap's own request.
+bool is_query(int major_code) { return major_code == X_InternAtom; }
 
 // Xlib calls this with the connection locked. A result of 0 in `status` makes the waiting call fail.
 int on_error(Display* display, xError* error, XExtCodes*, int* status) {
