@@ -3,6 +3,8 @@
 // one process. Prints a line for each phase: how many, and by how many bytes of heap each one left the
 // process larger. Ends with 1 when memory grows, a counter or a listener is left, or the X server keeps more
 // of this client than before.
+#include "support/output.hpp"
+
 #include <zo_ui/zo_ui.hpp>
 
 #include <X11/Xlib.h>
@@ -111,6 +113,16 @@ void post_from_all_threads(long count) {
     for (std::thread& thread : threads) thread.join();
 }
 
+void arm_timeouts(int count) {
+    int left = count / 2;
+    for (int i = 0; i < count; ++i) {
+        const unsigned long id =
+            zo_system_service_timeout([&left] { --left; }, i % 2 ? 1 : 1000000, "endurance", 1);
+        if (i % 2 == 0) zo_system_service_timeout_clear(id);
+    }
+    while (left > 0) g_main_context_iteration(nullptr, TRUE);
+}
+
 // A panel for one phase after the other. It keeps the places of windows that left it until it is closed, so
 // it is opened anew now and then.
 class panel {
@@ -153,8 +165,19 @@ void run_phases(long divisor) {
         if (i % 20 == 19) shown.open_anew();
     });
     zo_window_destroy(joined);
+    run_phase("timeouts (in hundreds), every second one cleared", 1000 / divisor,
+              [](long) { arm_timeouts(100); });
     run_phase("posts from 8 threads, with windows meanwhile (in thousands)", 1000 / divisor,
               [](long) { post_from_all_threads(1000); });
+}
+
+// A line for each list of listeners: "name\t- count".
+void look_at_listeners() {
+    const test::captured_output output;
+    zo_ui_output_listeners_stats();
+    for (const std::string& line : output.lines())
+        if (!line.ends_with("- 0")) fail("listeners are left", line.c_str());
+    std::printf("listeners left in %zu lists: 0\n", output.lines().size());
 }
 
 }  // namespace
@@ -175,6 +198,6 @@ int main(int argc, char** argv) {
         if (zo_object_ref_count(tag) != 0) fail(tag, "objects are left");
     if (x_resources() > resources) fail("X server", "resources are left");
     std::printf("X resources of the client: %lu at the start, %lu at the end\n", resources, x_resources());
-    zo_ui_output_listeners_stats();
+    look_at_listeners();
     return failed ? 1 : 0;
 }
