@@ -45,9 +45,9 @@ def compared(row, rounds, metric, size, beside, marks):
     return Line((row.title, str(size), metric.name, with_unit, *shown, said, verdict), reached)
 
 
-def lines_of(row, rounds):
+def lines_of(row, metrics, rounds):
     lines = []
-    for metric in row.metrics:
+    for metric in metrics:
         for size in row.sizes:
             if not samples(rounds, size, "ours", metric):
                 continue

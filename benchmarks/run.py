@@ -16,6 +16,7 @@ from pathlib import Path
 here = Path(__file__).resolve().parent
 root = here.parent
 build = root / "build/bench"
+sys.dont_write_bytecode = True
 sys.path.insert(0, str(here))
 import report  # noqa: E402: it stands beside this file
 
@@ -120,7 +121,8 @@ def main():
         if options.into:
             Path(options.into).write_text(json.dumps(rounds))
             return 0
-        lines += report.lines_of(row, rounds)
+        metrics = [metric for metric in row.metrics if metric.counted or not options.counts]
+        lines += report.lines_of(row, metrics, rounds)
     report.show(lines)
     if not options.rows and not options.counts:
         report.write(root / "docs/benchmarks.md", [row for _, row in rows], lines)

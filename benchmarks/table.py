@@ -43,6 +43,6 @@ class Row:
     contenders: dict             # name -> command; "ours" is compared with the others
     metrics: list
     about: str                   # for docs/benchmarks.md: what dominates, how cost grows, how far the floor is
-    sizes: list = field(default_factory=lambda: [1])
+    sizes: list = field(default_factory=lambda: [""])
     session: list | None = None  # options of script/session; one private desktop for all rounds of the row
     rounds: int = 7              # at least

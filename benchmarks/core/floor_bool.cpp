@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include <core/access.hpp>
-#include <core/floor_object.hpp>
+#include <core/floor_values.hpp>
 
 int main(int count, char** arguments) {
-    bench::floor_object object;
+    bench::floor_values object;
     return bench::access_main(
         count, arguments,
         [&](int) {

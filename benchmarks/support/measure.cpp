@@ -22,6 +22,8 @@ double bench::wall_us() { return microseconds(CLOCK_MONOTONIC); }
 
 void bench::print(const char* metric, double value) { std::printf("%s %.17g\n", metric, value); }
 
+int bench::repetitions(int usual) { return RUNNING_ON_VALGRIND ? usual / 40 : usual; }
+
 double bench::heap_bytes() {
     malloc_trim(0);
     const struct mallinfo2 now = mallinfo2();

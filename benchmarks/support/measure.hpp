@@ -11,6 +11,9 @@ double wall_us();
 // Prints "metric value".
 void print(const char* metric, double value);
 
+// How often to repeat what `usual` times would be repeated: less often where only counts are taken.
+int repetitions(int usual);
+
 // The memory that the heap holds now, in bytes, after freed ends were taken off.
 double heap_bytes();
 

@@ -10,9 +10,9 @@
 
 namespace bench {
 
-class floor_object {
+class floor_values {
   public:
-    floor_object();  // with the values of a window's whole property table
+    floor_values();  // with the values of a window's whole property table
 
     template <typename T>
     T get(std::string_view name) {
