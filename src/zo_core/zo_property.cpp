@@ -7,7 +7,7 @@ namespace {
 
 template <typename Name>
 bool get(property_list& list, const Name& name, boost::any& out) {
-    const auto place = list.find(name);
+    const auto place = list.find(zo::property_key(name));
     boost::any found;
     if (place != list.end()) found = place->second;
     out.swap(found);

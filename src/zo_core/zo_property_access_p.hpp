@@ -59,11 +59,12 @@ class property_guard {
         check(done, "zo_property_init", type_text<T>::value, name, {value_text});
     }
 
-    // `value` stays when the property is missing.
+    // False when the property is missing; `value` then stays.
     template <typename T, typename Name>
-    void read(const Name& name, T& value, const spelling& how) {
+    bool read(const Name& name, T& value, const spelling& how) {
         const bool done = property_get_extract<T>(object_.property_list, name, &value);
         check(done, "zo_property_get_extract", type_text<T>::value, name, how);
+        return done;
     }
 
     // Afterwards `value` holds what it replaced; the caller lets it outlive the guard.
@@ -73,6 +74,20 @@ class property_guard {
         const bool done = property_set<T>(object_.property_list, name, value, other);
         if (!other.empty()) replaced_.push_back(std::move(other));
         check(done, "zo_property_set", type_text<T>::value, name, how);
+    }
+
+    // Reads into `old` and writes `value`, without a copy where both succeed. `value` is then moved from.
+    template <typename T>
+    void exchange(const char* name, T& value, T& old, const spelling& how_read, const spelling& how_written) {
+        const auto place = object_.property_list.find(property_key(name));
+        T* stored = place == object_.property_list.end() ? nullptr : value_in<T>(place->second);
+        if (stored) {
+            old = std::exchange(*stored, std::move(value));
+            line_ += 2;
+        } else {
+            read(name, old, how_read);
+            write(name, value, how_written);
+        }
     }
 
   private:

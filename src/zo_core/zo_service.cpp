@@ -7,23 +7,35 @@
 
 namespace {
 
-bool accept(const zo::task& task, const char* function, const std::string& file, int line) {
+// `file` is a literal or a string: neither makes another on the way of a task that is accepted.
+template <typename File>
+bool accept(const zo::task& task, const char* function, const File& file, int line) {
     if (task) return true;
     zo_assertion_faild(false, "task != nullptr", function, file, line);
     return false;
 }
 
 // With the trace off, a task is posted as it came.
-void trace(zo::task& task, const char* what, const std::string& file, int line) {
+template <typename File>
+void trace(zo::task& task, const char* what, const File& file, int line) {
     if (zo::tracing()) task = zo::traced(std::move(task), what, file, line);
+}
+
+template <typename File>
+void exec(zo::task& task, const char* function, const File& file, int line) {
+    if (!accept(task, function, file, line)) return;
+    trace(task, "task", file, line);
+    zo::task_queue::instance().post(task);
 }
 
 }  // namespace
 
 void zo_system_service_exec(std::function<void()> task, std::string file, int line) {
-    if (!accept(task, __func__, file, line)) return;
-    trace(task, "task", file, line);
-    zo::task_queue::instance().post(task);
+    exec(task, __func__, file, line);
+}
+
+void zo_system_service_exec(std::function<void()> task, const char* file, int line) {
+    exec(task, __func__, file, line);
 }
 
 unsigned long zo_system_service_timeout(std::function<void()> task, unsigned long milliseconds,

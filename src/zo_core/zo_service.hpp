@@ -15,13 +15,16 @@
 #include <functional>
 #include <string>
 
+/// @{
 /// Queues `task` to run once on the loop. Tasks run in the order of posting, those of all threads together; a
 /// task may post tasks, and a nested main loop inside one goes on running the others. The callable is
-/// destroyed on the loop. `file` and `line` name the poster. An empty task is reported as a failed assertion
-/// and not queued.
+/// destroyed on the loop. `file` and `line` name the poster; the overload for literals builds no string. An
+/// empty task is reported as a failed assertion and not queued.
 /// @thread any
 /// @state after the end of the service the task is dropped unseen
 ZO_EXPORT void zo_system_service_exec(std::function<void()> task, std::string file, int line);
+ZO_EXPORT void zo_system_service_exec(std::function<void()> task, const char* file, int line);
+/// @}
 
 /// Runs `task` once on the loop, at least `milliseconds` from now by the monotonic clock. Returns an id for
 /// zo_system_service_timeout_clear(), never 0. `file` and `line` name the poster. An empty task is reported

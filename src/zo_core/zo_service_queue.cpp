@@ -48,16 +48,16 @@ void task_queue::attach(GSourceFuncs& functions, int priority, const char* name)
 }
 
 bool task_queue::post(task& next) {
-    bool was_empty = false;
+    bool asleep = false;
     {
         std::lock_guard lock(mutex_);
         if (phase_ == phase::closed) return false;
-        was_empty = posted_.empty();
         posted_.push_back(std::move(next));
-        waiting_ = true;
+        asleep = !waiting_;
+        if (asleep) waiting_ = true;
     }
-    // The loop's own thread looks again before it sleeps.
-    if (was_empty && !g_main_context_is_owner(nullptr)) g_main_context_wakeup(nullptr);
+    // While tasks wait the loop does not sleep, and its own thread looks again before it does.
+    if (asleep && !g_main_context_is_owner(nullptr)) g_main_context_wakeup(nullptr);
     return true;
 }
 

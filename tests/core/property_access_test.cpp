@@ -36,6 +36,41 @@ TEST_F(PropertyAccess, InitReadAndWriteWithoutAWord) {
     EXPECT_EQ(output.text(), "");
 }
 
+TEST_F(PropertyAccess, ExchangeReadsTheOldValueAndWritesTheNewOne) {
+    std::string value = "new";
+    std::string old = "untouched";
+    {
+        zo::property_guard guard(*object, "file", 10);
+        guard.init<std::string>("text", "old", "");
+        guard.exchange("text", value, old, {"&old"}, {"value"});
+        guard.read<std::string>("text", value, {"&value"});
+    }
+    EXPECT_EQ(old, "old");
+    EXPECT_EQ(value, "new");
+    EXPECT_EQ(output.text(), "");
+}
+
+TEST_F(PropertyAccess, ExchangeReportsAsReadingAndWritingWould) {
+    std::string value = "new";
+    std::string old = "untouched";
+    int number = 0;
+    {
+        zo::property_guard guard(*object, "src/file", 10);
+        guard.exchange("text", value, old, {"&old"}, {"value"});
+        guard.read<std::string>("text", value, {"&value"});
+        guard.exchange("text", value, old, {"&old"}, {"value"});
+        guard.read<int>("missing", number, {"&number"});
+        EXPECT_THROW(guard.exchange("object-destroyed", value, old, {"&old"}, {"value"}),
+                     boost::bad_any_cast);
+    }
+    EXPECT_EQ(old, "new");
+    EXPECT_EQ(
+        output.text(),
+        report("zo_property_get_extract<std::string>(property_list,\"text\",&old) - text - src/file:11") +
+            report(
+                "zo_property_get_extract<int>(property_list,\"missing\",&number) - missing - src/file:16"));
+}
+
 TEST_F(PropertyAccess, ASecondInitIsReportedAndKeepsTheFirstValue) {
     std::string value;
     {

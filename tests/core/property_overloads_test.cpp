@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Reads and writes happen at every turn of a program: their usual way allocates nothing.
+#include <glib.h>
 #include <gtest/gtest.h>
 #include <zo_core/zo_core.hpp>
 #include <zo_core/zo_property_access_p.hpp>
@@ -90,6 +91,41 @@ TEST_F(PropertyOverloads, TheLibrarysOwnAccessAllocatesNothing) {
     });
     EXPECT_EQ(count, 0);
     EXPECT_EQ(value, 3);
+}
+
+TEST_F(PropertyOverloads, AnExchangeAllocatesNothing) {
+    std::string value(200, 'y');
+    std::string old;
+    const long count = allocations_in([&] {
+        zo::property_guard guard(*object, file, 1);
+        guard.exchange("text", value, old, {"&old"}, {"value"});
+    });
+    EXPECT_EQ(count, 0);
+    EXPECT_EQ(old, std::string(100, 'x'));
+}
+
+TEST_F(PropertyOverloads, ATextThatFitsIsReadWithoutAllocating) {
+    std::string value(100, 'y');
+    const long count = allocations_in([&] {
+        zo::property_guard guard(*object, file, 1);
+        EXPECT_TRUE(guard.read("text", value, {"&value"}));
+    });
+    EXPECT_EQ(count, 0);
+    EXPECT_EQ(value, std::string(100, 'x'));
+}
+
+TEST(ServiceOverloads, APostByLiteralBuildsNoString) {
+    int ran = 0;
+    long count = 0;
+    for (int turn = 1; turn <= 3; ++turn) {  // the queue's memory is there after two
+        const long before = allocations;
+        zo_system_service_exec([&ran] { ++ran; }, file, 1);
+        count = allocations - before;
+        while (g_main_context_iteration(nullptr, FALSE)) {
+        }
+        EXPECT_EQ(ran, turn);
+    }
+    EXPECT_EQ(count, 0);
 }
 
 TEST_F(PropertyOverloads, GetByLiteralBuildsNoName) {

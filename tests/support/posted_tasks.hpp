@@ -28,6 +28,10 @@ void zo_system_service_exec(std::function<void()> task, std::string file, int li
     test::posts.push_back({std::move(task), std::move(file), line});
 }
 
+void zo_system_service_exec(std::function<void()> task, const char* file, int line) {
+    test::posts.push_back({std::move(task), file, line});
+}
+
 unsigned long zo_system_service_timeout(std::function<void()> task, unsigned long milliseconds,
                                         std::string file, int line) {
     test::posts.push_back({std::move(task), std::move(file), line, milliseconds});

@@ -13,12 +13,9 @@ namespace source = zo::window_source;
 
 bool get_text(const zo_window_ptr& window, std::string& text, const char* function, const char* property) {
     if (zo::refuse_null(window, function)) return false;
-    std::string value;
-    {
-        zo::property_guard guard(*window, source::file, source::text_getter);
-        guard.read(property, value, {"&value", "ptr->property_list"});
-    }
-    text.swap(value);
+    zo::property_guard guard(*window, source::file, source::text_getter);
+    // Into the caller's own memory where it is large enough.
+    if (!guard.read(property, text, {"&value", "ptr->property_list"})) text.clear();
     return true;
 }
 
@@ -32,16 +29,16 @@ const zo::window_text zo::window_text::title{"window-title-text", "window-title-
                                              &_zo_window::apply_title, true};
 
 void _zo_window::post_text_change(const zo::window_text& text, std::string s) {
-    const zo_window_ptr self = handle();
+    const zo_window_ptr self = handle();  // outlives the lock, though the task may have run by then
     std::string old;
     std::string stored = s;
     // Posted under the lock: of two threads the one that stores last is followed last. Another lock would be
     // in the way of a thread that holds this one already.
     zo::property_guard guard(*this, source::file, source::text_setter);
-    guard.read(text.property, old, {"&old"});
-    guard.write(text.property, stored, {"s"});
-    zo_system_service_exec([self, &text, old, s] { self->on_text_changed(text, old, s); }, source::file,
-                           text.line);
+    guard.exchange(text.property, stored, old, {"&old"}, {"s"});
+    zo_system_service_exec(
+        [self, &text, old = std::move(old), s = std::move(s)] { self->on_text_changed(text, old, s); },
+        source::file, text.line);
 }
 
 void _zo_window::on_text_changed(const zo::window_text& text, const std::string& old,

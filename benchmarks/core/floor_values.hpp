@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: MIT
+// What an expert would write for named values of any type that threads share: a mutex, a map and an any.
+#pragma once
+
+#include <any>
+#include <functional>
+#include <map>
+#include <mutex>
+#include <string>
+
+namespace bench {
+
+class floor_values {
+  public:
+    floor_values();  // with the values of a window's whole property table
+
+    template <typename T>
+    T get(std::string_view name) {
+        const std::lock_guard lock(mutex_);
+        return std::any_cast<const T&>(values_.find(name)->second);
+    }
+
+    template <typename T>
+    void set(std::string_view name, T value) {
+        const std::lock_guard lock(mutex_);
+        std::any_cast<T&>(values_.find(name)->second) = std::move(value);
+    }
+
+  private:
+    std::mutex mutex_;
+    std::map<std::string, std::any, std::less<>> values_;
+};
+
+}  // namespace bench

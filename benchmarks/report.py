@@ -1,0 +1,96 @@
+# SPDX-License-Identifier: MIT
+"""Medians, ratios and marks: the table on the terminal and in docs/benchmarks.md."""
+import os
+import platform
+import re
+import subprocess
+from dataclasses import dataclass
+from pathlib import Path
+from statistics import median
+
+HEAD = ("Work", "Size", "What", "Ours", "Beside", "Theirs", "Ratio", "Mark", "")
+
+
+@dataclass
+class Line:
+    cells: tuple
+    reached: bool = True
+
+
+def number(value):
+    return f"{value:,.0f}" if abs(value) >= 1000 else f"{value:.3g}"
+
+
+def samples(rounds, size, contender, metric):
+    """The metric in each round in which it was taken: what is counted by a slow tool is taken once."""
+    return [values[contender][metric.name] for values in (one[str(size)] for one in rounds)
+            if metric.name in values[contender]]
+
+
+def compared(row, rounds, metric, size, beside, marks):
+    """One line: ours beside one contender, or beside none."""
+    ours = samples(rounds, size, "ours", metric)
+    with_unit = f"{number(median(ours))} {metric.unit}".strip()
+    name, _, other_size = beside.partition("@")
+    if beside:
+        theirs = samples(rounds, other_size or size, name, metric)
+        value = median(a / b if b else float("inf") if a else 1.0 for a, b in zip(ours, theirs))
+        shown = (f"{name} at {other_size}" if other_size else name, number(median(theirs)), f"{value:.3g}")
+    else:
+        value = median(ours)
+        shown = ("", "", "")
+    reached = all(mark.holds(value) for mark in marks)
+    verdict = "" if not marks else "reached" if reached else "MISSED"
+    said = ", ".join(mark.text() for mark in marks)
+    return Line((row.title, str(size), metric.name, with_unit, *shown, said, verdict), reached)
+
+
+def lines_of(row, metrics, rounds):
+    lines = []
+    for metric in metrics:
+        for size in row.sizes:
+            if not samples(rounds, size, "ours", metric):
+                continue
+            marks = {}
+            for mark in metric.marks:
+                if mark.size is None or mark.size == size:
+                    other = f"@{mark.beside_size}" if mark.beside_size is not None else ""
+                    marks.setdefault(mark.beside + other, []).append(mark)
+            others = [name for name in row.contenders if name != "ours" and samples(rounds, size, name, metric)]
+            for beside in dict.fromkeys([*others, *marks]) or [""]:
+                lines.append(compared(row, rounds, metric, size, beside, marks.get(beside, [])))
+    return lines
+
+
+def show(lines):
+    table = [HEAD, *(line.cells for line in lines)]
+    widths = [max(len(cells[column]) for cells in table) for column in range(len(HEAD))]
+    for cells in table:
+        print("  ".join(cell.ljust(width) for cell, width in zip(cells, widths)).rstrip())
+    missed = sum(not line.reached for line in lines)
+    marked = sum(bool(line.cells[-1]) for line in lines)
+    print(f"bench: {marked - missed} of {marked} marks are reached")
+
+
+def machine():
+    processor = re.search(r"model name\s*: (.*)", Path("/proc/cpuinfo").read_text())
+    system = re.search(r'PRETTY_NAME="(.*)"', Path("/etc/os-release").read_text())
+    versions = [f"{name} {version}" for name, module in (("GLib", "glib-2.0"), ("GTK", "gtk+-3.0"))
+                for version in [subprocess.run(["pkg-config", "--modversion", module], capture_output=True,
+                                               text=True).stdout.strip()]]
+    compiler = subprocess.run(["c++", "--version"], capture_output=True, text=True).stdout.split("\n")[0]
+    memory = os.sysconf("SC_PAGE_SIZE") * os.sysconf("SC_PHYS_PAGES") / 2**30
+    return (f"{processor.group(1) if processor else platform.machine()}, {os.cpu_count()} cores, {memory:.0f} GiB; "
+            f"{system.group(1) if system else platform.system()}; {compiler}; {', '.join(versions)}")
+
+
+def write(file, rows, lines):
+    text = ["# Benchmarks", "", "Written by `script/bench`, in release mode, on this machine:", "", f"    {machine()}", "",
+            "Contenders run in turn, at least 7 rounds; figures are medians, ratios the medians of the rounds' ratios, ours",
+            "divided by theirs. Times mean little from machine to machine; ratios and counts are what to look at. The floor is",
+            "what an expert would write by hand for the same visible result.", "",
+            "| " + " | ".join(HEAD) + " |", "|" + "---|" * len(HEAD)]
+    text += ["| " + " | ".join(line.cells) + " |" for line in lines]
+    for row in rows:
+        text += ["", f"## {row.title}", "", row.about.strip()]
+    file.write_text("\n".join(text) + "\n")

@@ -1,0 +1,48 @@
+# SPDX-License-Identifier: MIT
+"""What the rows.py of each group are written in.
+
+ROWS is a list of Row. A row's contenders are programs that do the same work: "ours", the peers by their names, and
+"floor", what an expert would write by hand for the same visible result. A command is a text; {bin} in it is the folder
+of the group's built programs, {here} the group's source folder, {size} the size. A program does one round and prints
+lines "metric value"; what it prints beyond the row's metrics is let be.
+"""
+from dataclasses import dataclass, field
+
+
+@dataclass
+class Mark:
+    """Ours divided by the contender `beside` must be in the bounds; without `beside`, ours itself."""
+    beside: str = ""
+    at_most: float | None = None
+    at_least: float | None = None
+    size: object = None          # only at this size; at each when None
+    beside_size: object = None   # the contender's size, when it is another: how cost grows
+
+    def holds(self, value):
+        return (self.at_most is None or value <= self.at_most) and (self.at_least is None or value >= self.at_least)
+
+    def text(self):
+        bounds = [f"at most {self.at_most:g}"] if self.at_most is not None else []
+        bounds += [f"at least {self.at_least:g}"] if self.at_least is not None else []
+        return ", ".join(bounds)
+
+
+@dataclass
+class Metric:
+    name: str                    # as the program prints it
+    unit: str = ""
+    marks: list = field(default_factory=list)
+    counted: bool = False        # does not vary: asserted by script/bench --counts, from one round
+    callgrind: bool = False      # instructions in bench::section, told by callgrind; divided by "operations"
+
+
+@dataclass
+class Row:
+    name: str                    # for the command line, unique: "bool-read"
+    title: str
+    contenders: dict             # name -> command; "ours" is compared with the others
+    metrics: list
+    about: str                   # for docs/benchmarks.md: what dominates, how cost grows, how far the floor is
+    sizes: list = field(default_factory=lambda: [""])
+    session: list | None = None  # options of script/session; one private desktop for all rounds of the row
+    rounds: int = 7              # at least

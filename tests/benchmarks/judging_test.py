@@ -1,0 +1,47 @@
+#!/usr/bin/env python3
+# SPDX-License-Identifier: MIT
+"""The benchmarks' runner on figures that are known: which marks it says are reached, and which are missed."""
+import sys
+from pathlib import Path
+
+root = Path(__file__).resolve().parents[2]
+sys.dont_write_bytecode = True
+sys.path.insert(0, str(root / "benchmarks"))
+import report  # noqa: E402
+import run  # noqa: E402
+from table import Mark, Metric, Row  # noqa: E402
+
+# Ours is half of the peer in all rounds but one, and does not grow; the peer does.
+ROUNDS = [{"10": {"ours": {"us": 2.0}, "peer": {"us": 4.0}}, "100": {"ours": {"us": 2.0}, "peer": {"us": peer}}}
+          for peer in (40.0, 40.0, 0.1)]
+
+
+def verdicts(*marks):
+    metric = Metric("us", "us", list(marks))
+    row = Row("row", "Row", {"ours": "a", "peer": "b"}, [metric], "", sizes=[10, 100])
+    return [line.cells[-1] for line in report.lines_of(row, [metric], ROUNDS)]
+
+
+def expect(got, wanted):
+    if got != wanted:
+        sys.exit(f"{got} instead of {wanted}")
+
+
+expect(verdicts(), ["", ""])
+expect(verdicts(Mark("peer", at_most=0.5)), ["reached", "reached"])
+expect(verdicts(Mark("peer", at_most=0.49)), ["MISSED", "reached"])
+expect(verdicts(Mark("peer", at_least=0.4)), ["reached", "MISSED"])
+expect(verdicts(Mark("peer", at_most=0.49, size=100)), ["", "reached"])
+expect(verdicts(Mark(at_most=2)), ["", "reached", "", "reached"])
+expect(verdicts(Mark(at_most=1.9, size=10)), ["", "MISSED", ""])
+expect(verdicts(Mark("ours", at_most=1, size=100, beside_size=10)), ["", "", "reached"])
+expect(verdicts(Mark("ours", at_most=0.9, size=100, beside_size=10)), ["", "", "MISSED"])
+expect(run.printed("us 12.5\na word\ncount 3\nsmall 2.5e-06\n"), {"us": 12.5, "count": 3.0, "small": 2.5e-06})
+
+names = [row.name for _, rows in run.groups() for row in rows]
+expect(sorted(set(names)), sorted(names))
+for _, rows in run.groups():
+    for row in rows:
+        besides = {mark.beside for metric in row.metrics for mark in metric.marks}
+        expect(besides - set(row.contenders) - {""}, set())
+        expect("ours" in row.contenders and bool(row.about.strip()), True)
