@@ -20,9 +20,14 @@ void PrintTo(const long_text& text, std::ostream* out) { *out << text.name; }
 
 const std::vector<long_text>& long_texts() {
     static const std::vector<long_text> all{
-        {"OneMebibyte", times(1 << 20, "m")},      {"Words", times(200000, "word ")},
-        {"Lines", times(3000, "line\n")},          {"LineBreaks", times(400, "\u2028\u2029\r\n")},
-        {"WideCharacters", times(4000, "\ufdfd")}, {"NotUtf8", times(20000, "\xff\xfe")}};
+        {"OneMebibyte", times(1 << 20, "m")},
+        {"Words", times(200000, "word ")},
+        {"Lines", times(3000, "line\n")},
+        {"LineBreaks", times(400, "\u2028\u2029\r\n")},
+        {"WideCharacters", times(4000, "\ufdfd")},
+        {"NotUtf8", times(20000, "\xff\xfe")},
+        {"BidiControls", times(4000, "\u202eabc \u202c\u2067\u05d0 \u2069\u200f1")},
+        {"DeepTags", times(3000, "<b><i>") + "deep" + times(3000, "</i></b>")}};
     return all;
 }
 
