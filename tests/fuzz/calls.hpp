@@ -14,6 +14,7 @@ namespace fuzz {
 constexpr int windows_count = 3;
 constexpr int managers_count = 2;
 constexpr int notifications_count = 3;
+constexpr int widget_places = 3;  // of a panel: left, right, toolbar
 
 enum class verb {
     // windows
@@ -38,6 +39,12 @@ enum class verb {
     destroy_toplevel,
     click_task,
     click_task_close,
+    set_callback,
+    clear_callback,
+    set_other_callback,
+    set_flag,
+    add_content,
+    drop_and_new,
     // managers
     manager_open,
     manager_show,
@@ -48,6 +55,10 @@ enum class verb {
     manager_extend,
     manager_retract,
     manager_keep,
+    manager_set_callback,
+    manager_clear_callback,
+    manager_add_widget,
+    manager_remove_widget,
     // notifications
     notification_show,
     notification_destroy,
@@ -55,15 +66,23 @@ enum class verb {
     notification_click_close,
     notification_click_action,
     notification_destroy_popup,
-    // the loop
-    run,
+    notification_set,
+    notification_drop_and_new,
+    // the process
+    null_handle,
+    timeout,
+    indicator_show,
+    indicator_action,
+    indicator_destroy,
+    run,  // the loop
     count
 };
 
 struct call {
     verb what = verb::run;
-    int who = 0;   // index among the objects of the verb's kind
-    int with = 0;  // a manager's index, a flag, a text
+    int who = 0;             // index among the objects of the verb's kind
+    int with = 0;            // a manager's index, a flag, a text, a row of a table
+    bool elsewhere = false;  // from another thread, which ends before the next call
 };
 
 enum class kind { window, manager, notification };
@@ -97,6 +116,7 @@ struct step {
     kind of;
     int who;
     event what;
+    std::string answers;  // of the calls that were made in it: "1" for true
     bool operator==(const step&) const = default;
 };
 using story = std::vector<step>;
@@ -105,11 +125,12 @@ using story = std::vector<step>;
 struct picture {
     struct window {
         bool opened, visible, destroyed, toplevel, mapped, task;
-        int instance, manager;
+        int instance, manager, title;
+        std::string label;  // of the title bar; empty without one
         bool operator==(const window&) const = default;
     };
     struct manager {
-        bool opened, visible, destroyed;
+        bool opened, visible, destroyed, keep;
         std::vector<int> stack;
         bool operator==(const manager&) const = default;
     };
@@ -120,8 +141,19 @@ struct picture {
     std::array<window, windows_count> windows;
     std::array<manager, managers_count> managers;
     std::array<notification, notifications_count> notifications;
+    std::vector<std::vector<int>> rows;  // the windows whose buttons stand in a panel, in their order; sorted
     bool operator==(const picture&) const = default;
 };
+
+// The event whose callback `made` sets or clears.
+template <std::size_t N>
+event event_of(const call& made, const event (&table)[N]) {
+    return table[static_cast<std::size_t>(made.with) % N];
+}
+constexpr event window_events[] = {event::open,         event::show,    event::hide,    event::close,
+                                   event::activate,     event::restore, event::destroy, event::close_request,
+                                   event::title_change, event::pushed};
+constexpr event manager_events[] = {event::open, event::show, event::hide, event::close, event::destroy};
 
 std::string text_of(const story& told);
 std::string text_of(const picture& seen);

@@ -13,7 +13,7 @@ using namespace fuzz;
 
 constexpr int main_calls = 60;
 constexpr const char* tags[] = {"[zo_window]", "[zo_window_manager]", "[zo_notification]",
-                                "[zo_window_event]"};
+                                "[zo_window_event]", "[zo_appindicator]"};
 
 // What leads nowhere further, such as an end, is called less often than what leads on.
 const std::vector<verb>& weighted_verbs() {
@@ -23,7 +23,7 @@ const std::vector<verb>& weighted_verbs() {
             const auto what = static_cast<verb>(v);
             const bool ends = what == verb::destroy || what == verb::destroy_for ||
                               what == verb::manager_destroy || what == verb::manager_destroy_for ||
-                              what == verb::notification_destroy;
+                              what == verb::notification_destroy || what == verb::drop_and_new;
             verbs.insert(verbs.end(), ends ? 1 : what == verb::run ? 12 : 4, what);
         }
         return verbs;
@@ -31,15 +31,32 @@ const std::vector<verb>& weighted_verbs() {
     return all;
 }
 
+// Presses and what packs widgets belong to the loop's thread.
+bool is_for_any_thread(verb what) {
+    return what <= verb::leave || (what >= verb::set_callback && what <= verb::set_flag) ||
+           (what >= verb::manager_open && what <= verb::manager_clear_callback) ||
+           (what >= verb::notification_show && what <= verb::notification_manager) ||
+           (what >= verb::notification_set && what <= verb::indicator_destroy);
+}
+
+// Those whose row of a table is `with`.
+bool is_of_a_table(verb what) {
+    return (what >= verb::set_callback && what <= verb::set_flag) || what == verb::manager_set_callback ||
+           what == verb::manager_clear_callback || what == verb::null_handle;
+}
+
 call next_call(FuzzedDataProvider& bytes) {
     call made;
     made.what = weighted_verbs()[bytes.ConsumeIntegralInRange<std::size_t>(0, weighted_verbs().size() - 1)];
     if (made.what == verb::run) return made;
+    made.elsewhere = is_for_any_thread(made.what) && bytes.ConsumeIntegralInRange<int>(0, 3) == 0;
+    if (is_of_a_table(made.what)) made.with = bytes.ConsumeIntegralInRange<int>(0, 255);
     const int count = made.what < verb::manager_open        ? windows_count
                       : made.what < verb::notification_show ? managers_count
-                                                            : notifications_count;
+                      : made.what < verb::null_handle       ? notifications_count
+                                                            : 1;
     made.who = bytes.ConsumeIntegralInRange<int>(0, count) % count;  // the first one twice as often
-    made.with = bytes.ConsumeIntegralInRange<int>(0, 5);
+    if (!is_of_a_table(made.what)) made.with = bytes.ConsumeIntegralInRange<int>(0, 5);
     return made;
 }
 

@@ -1,7 +1,33 @@
 // SPDX-License-Identifier: MIT
 #include "fuzz/calls_model.hpp"
 
+#include <algorithm>
+
 using fuzz::model;
+
+model::model(reactions programs) : programs_(std::move(programs)) {
+    for (int w = 0; w < windows_count; ++w) present_windows_[w] = new_window(w);
+    for (int m = 0; m < managers_count; ++m) managers_[m].answers = first_answers(kind::manager, m);
+    for (int n = 0; n < notifications_count; ++n) present_notifications_[n] = new_notification(n);
+}
+
+int model::new_window(int who) {
+    windows_.push_back({.who = who, .answers = first_answers(kind::window, who)});
+    return static_cast<int>(windows_.size()) - 1;
+}
+
+int model::new_notification(int who) {
+    notifications_.push_back({.who = who});
+    return static_cast<int>(notifications_.size()) - 1;
+}
+
+std::set<fuzz::event> model::first_answers(kind of, int who) const {
+    std::set<event> answers;
+    for (int what = 0; what < static_cast<int>(event::count); ++what)
+        if (programs_.at({of, who, static_cast<event>(what)}).present)
+            answers.insert(static_cast<event>(what));
+    return answers;
+}
 
 bool model::make(const call& made) {
     if (made.what == verb::run) {
@@ -10,7 +36,8 @@ bool model::make(const call& made) {
     }
     if (made.what < verb::manager_open) return make_window_call(made);
     if (made.what < verb::notification_show) return make_manager_call(made);
-    return make_notification_call(made);
+    if (made.what < verb::null_handle) return make_notification_call(made);
+    return true;  // what the process is asked for moves nothing that the story tells
 }
 
 void model::run() {
@@ -21,31 +48,60 @@ void model::run() {
     }
 }
 
-bool model::tell(kind of, int who, event what) {
-    const auto found = programs_.find({of, who, what});
-    if (found == programs_.end() || !found->second.present) return false;
-    told_.push_back({of, who, what});
-    reaction& program = found->second;
+bool model::answer(kind of, int who, event what) {
+    const std::size_t at = told_.size();
+    told_.push_back({of, who, what, {}});
+    reaction& program = programs_[{of, who, what}];
     if (program.left > 0) {
         --program.left;
-        for (const call& made : std::vector(program.calls)) make(made);
+        for (const call& made : std::vector(program.calls)) {
+            const bool done = make(made);
+            told_[at].answers += done ? "1" : "0";
+        }
     }
     return program.veto;
+}
+
+bool model::tell_window(int w, event what) {
+    return windows_[w].answers.count(what) && answer(kind::window, windows_[w].who, what);
+}
+
+void model::tell_manager(int m, event what) {
+    if (managers_[m].answers.count(what)) answer(kind::manager, m, what);
+}
+
+// The windows with a button in the panel, the newest button first.
+std::vector<int> model::row_of(int m) const {
+    std::vector<int> row;
+    for (int who = 0; who < windows_count; ++who) {
+        const window& it = windows_[present_windows_[who]];
+        if (it.task && it.manager == m) row.push_back(who);
+    }
+    std::sort(row.begin(), row.end(), [this](int a, int b) {
+        return windows_[present_windows_[a]].button > windows_[present_windows_[b]].button;
+    });
+    return row;
 }
 
 fuzz::picture model::look() const {
     picture seen{};
     for (int w = 0; w < windows_count; ++w) {
-        const window& it = windows_[w];
-        seen.windows[w] = {it.opened,  it.visible, it.destroyed, it.tree != 0,
-                           it.visible, it.task,    it.instance,  it.manager};
+        const window& it = windows_[present_windows_[w]];
+        const std::string title = it.title ? std::to_string(it.title) : "";
+        seen.windows[w] = {it.opened, it.visible,  it.destroyed, it.tree != 0, it.visible,
+                           it.task,   it.instance, it.manager,   it.title,     it.titled ? title : ""};
     }
     for (int m = 0; m < managers_count; ++m) {
         const manager& it = managers_[m];
-        seen.managers[m] = {it.opened, it.visible, it.destroyed, {it.stacked.begin(), it.stacked.end()}};
+        seen.managers[m] = {it.opened, it.visible, it.destroyed, it.keep, {}};
+        for (int n = 0; n < notifications_count; ++n)
+            if (it.stacked.count(present_notifications_[n])) seen.managers[m].stack.push_back(n);
+        const std::vector<int> row = row_of(m);
+        if (!row.empty()) seen.rows.push_back(row);
     }
+    std::sort(seen.rows.begin(), seen.rows.end());
     for (int n = 0; n < notifications_count; ++n) {
-        const notification& it = notifications_[n];
+        const notification& it = notifications_[present_notifications_[n]];
         seen.notifications[n] = {it.opened, it.visible, it.destroyed};
     }
     return seen;

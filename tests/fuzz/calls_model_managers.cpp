@@ -35,10 +35,29 @@ bool model::make_manager_call(const call& made) {
         case verb::manager_destroy_for:
             if (!std::exchange(managers_[m].end_asked, true)) later(&model::manager_destroy);
             break;
+        case verb::manager_keep:
+            managers_[m].keep = made.with % 2;
+            break;
+        case verb::manager_set_callback:
+            managers_[m].answers.insert(event_of(made, manager_events));
+            break;
+        case verb::manager_clear_callback:
+            managers_[m].answers.erase(event_of(made, manager_events));
+            break;
         default:
-            post([] {});
-            break;  // sliding and the lock move nothing that the story tells
+            return make_widget_call(made);
     }
+    return true;
+}
+
+// Sliding moves nothing that the story tells.
+bool model::make_widget_call(const call& made) {
+    manager& it = managers_[made.who];
+    if (made.what != verb::manager_add_widget && made.what != verb::manager_remove_widget) return true;
+    const bool wanted = made.what == verb::manager_add_widget;
+    bool& there = it.widgets[static_cast<std::size_t>(made.with % widget_places)];
+    if (!it.opened || there == wanted) return false;
+    there = wanted;
     return true;
 }
 
@@ -47,7 +66,7 @@ void model::manager_open(int m) {
     if (it.opened || it.destroyed || it.visible) return;
     it.opened = true;
     for (const int w : std::vector(it.shown)) give_task(w);
-    if (!it.silent) tell(kind::manager, m, event::open);
+    tell_manager(m, event::open);
 }
 
 void model::manager_show(int m) {
@@ -56,7 +75,7 @@ void model::manager_show(int m) {
     it.visible = true;
     for (const int w : std::vector(it.shown)) post([=, this] { restore(w); });
     for (const int n : std::set(it.listed)) post([=, this] { notification_show(n); });
-    if (!it.silent) tell(kind::manager, m, event::show);
+    tell_manager(m, event::show);
 }
 
 void model::manager_hide(int m) {
@@ -65,7 +84,7 @@ void model::manager_hide(int m) {
     it.visible = false;
     for (const int w : std::vector(it.shown)) post([=, this] { hide(w); });
     for (const int n : std::set(it.listed)) post([=, this] { notification_hide(n); });
-    if (!it.silent) tell(kind::manager, m, event::hide);
+    tell_manager(m, event::hide);
 }
 
 void model::manager_close(int m) {
@@ -77,21 +96,22 @@ void model::manager_close(int m) {
     }
     for (const int n : std::exchange(it.listed, {})) post([=, this] { notification_close(n); });
     it.opened = it.visible = false;
-    if (!it.silent) tell(kind::manager, m, event::close);
+    it.widgets = {};
+    tell_manager(m, event::close);
 }
 
 void model::manager_destroy(int m) {
     manager& it = managers_[m];
     if (it.destroyed || it.destroying) return;
     it.destroying = true;
-    const bool told = !std::exchange(it.silent, true);
+    const std::set<event> had = std::exchange(it.answers, {});
     for (const int w : std::vector(it.registered)) {
         post_join(w, -1);
         post_end(w);
     }
     it.destroyed = true;
     for (const int n : std::set(it.listed)) post([=, this] { notification_show(n); });
-    if (told) tell(kind::manager, m, event::destroy);
+    if (had.count(event::destroy)) answer(kind::manager, m, event::destroy);
 }
 
 void model::connect(int m, int w) {
@@ -130,6 +150,9 @@ void model::window_closed(int m, int w) {
     windows_[w].task = false;
 }
 
+// A button that is there already keeps its place.
 void model::give_task(int w) {
-    if (!windows_[w].popup) windows_[w].task = true;
+    if (windows_[w].popup || windows_[w].task) return;
+    windows_[w].task = true;
+    windows_[w].button = ++buttons_;
 }

@@ -6,7 +6,7 @@
 using fuzz::model;
 
 bool model::make_notification_call(const call& made) {
-    const int n = made.who;
+    const int n = present_notifications_[made.who];
     notification& it = notifications_[n];
     switch (made.what) {
         case verb::notification_show:
@@ -21,14 +21,25 @@ bool model::make_notification_call(const call& made) {
             return true;
         case verb::notification_click_action:
             if (!it.opened) return false;
-            tell(kind::notification, n, event::action);
+            tell_notification(n, event::action);
             notification_close(n);
+            return true;
+        case verb::notification_set:
+            return true;
+        case verb::notification_drop_and_new:
+            post([=, this] { notification_close(n); });
+            present_notifications_[made.who] = new_notification(made.who);
             return true;
         default:  // its close button, or its popup destroyed by somebody else
             if (!it.opened) return false;
             notification_close(n);
             return true;
     }
+}
+
+void model::tell_notification(int n, event what) {
+    const int who = notifications_[n].who;
+    if (programs_[{kind::notification, who, what}].present) answer(kind::notification, who, what);
 }
 
 void model::notification_open(int n) {
@@ -63,7 +74,7 @@ void model::notification_close(int n) {
     list_in(n, -1);
     stack_in(n, -2);
     it.manager = -1;
-    tell(kind::notification, n, event::close);
+    tell_notification(n, event::close);
     it.destroyed = true;
 }
 

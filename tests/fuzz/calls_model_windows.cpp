@@ -6,7 +6,7 @@
 using fuzz::model;
 
 bool model::make_window_call(const call& made) {
-    const int w = made.who;
+    const int w = present_windows_[made.who];
     const auto later = [&](void (model::*task)(int)) { post([=, this] { (this->*task)(w); }); };
     window& it = windows_[w];
     switch (made.what) {
@@ -44,9 +44,7 @@ bool model::make_window_call(const call& made) {
             it.popup = made.with % 2;
             break;
         case verb::push_event:
-            post([=, this] {
-                if (!windows_[w].silent) tell(kind::window, w, event::pushed);
-            });
+            post([=, this] { tell_window(w, event::pushed); });
             break;
         case verb::set_title: {
             const int old = std::exchange(it.title, made.with);
@@ -60,13 +58,33 @@ bool model::make_window_call(const call& made) {
             post_join(w, -1);
             break;
         default:
-            return press_window(made);
+            return made.what < verb::set_callback ? press_window(made) : make_other_window_call(made);
     }
     return true;
 }
 
+bool model::make_other_window_call(const call& made) {
+    const int w = present_windows_[made.who];
+    switch (made.what) {
+        case verb::set_callback:
+            windows_[w].answers.insert(event_of(made, window_events));
+            return true;
+        case verb::clear_callback:
+            windows_[w].answers.erase(event_of(made, window_events));
+            return true;
+        case verb::add_content:
+            return windows_[w].opened;
+        case verb::drop_and_new:
+            post([=, this] { destroy(w); });
+            present_windows_[made.who] = new_window(made.who);
+            return true;
+        default:
+            return true;  // what only the look of a window follows
+    }
+}
+
 bool model::press_window(const call& made) {
-    const int w = made.who;
+    const int w = present_windows_[made.who];
     window& it = windows_[w];
     switch (made.what) {
         case verb::click_close:
@@ -106,7 +124,7 @@ void model::open(int w) {
     it.opened = true;
     it.titled = !it.popup;
     const int tree = it.tree = ++trees_;
-    tell(kind::window, w, event::open);
+    tell_window(w, event::open);
     if (still(w, tree) && it.manager >= 0) window_opened(it.manager, w);
 }
 
@@ -115,7 +133,7 @@ void model::show(int w) {
     if (!it.opened || it.destroyed || it.visible) return;
     it.visible = true;
     const int tree = it.tree;
-    tell(kind::window, w, event::show);
+    tell_window(w, event::show);
     if (still(w, tree) && it.visible && it.manager >= 0) window_shown(it.manager, w);
 }
 
@@ -123,19 +141,19 @@ void model::hide(int w) {
     window& it = windows_[w];
     if (!it.opened || it.destroyed || !it.visible) return;
     it.visible = false;
-    tell(kind::window, w, event::hide);
+    tell_window(w, event::hide);
 }
 
 void model::activate(int w) {
     const window& it = windows_[w];
-    if (it.opened && !it.destroyed && it.visible) tell(kind::window, w, event::activate);
+    if (it.opened && !it.destroyed && it.visible) tell_window(w, event::activate);
 }
 
 void model::restore(int w) {
     const window& it = windows_[w];
     if (!it.opened || it.destroyed || !it.restore_visible || it.visible) return;
     show(w);
-    if (it.visible) tell(kind::window, w, event::restore);
+    if (it.visible) tell_window(w, event::restore);
 }
 
 void model::close(int w) {
@@ -144,8 +162,7 @@ void model::close(int w) {
     ++it.instance;
     it.opened = it.visible = it.titled = false;
     it.tree = 0;
-    // The callback of closing is the last one that a window loses.
-    tell(kind::window, w, event::close);
+    tell_window(w, event::close);
     if (!it.opened && it.manager >= 0) window_closed(it.manager, w);
 }
 
@@ -154,10 +171,13 @@ void model::destroy(int w) {
     if (it.destroyed || it.destroying) return;
     it.destroying = true;
     ++it.instance;
-    const bool told = !std::exchange(it.silent, true);
+    // The callback of closing is the last one that a window loses.
+    const std::set<event> had = std::exchange(it.answers, {});
+    if (had.count(event::close)) it.answers = {event::close};
     close(w);
+    it.answers.erase(event::close);
     it.destroyed = true;
-    if (told) tell(kind::window, w, event::destroy);
+    if (had.count(event::destroy)) answer(kind::window, it.who, event::destroy);
     if (it.manager >= 0) disconnect(it.manager, w);
     it.manager = -1;
     it.destroying = false;
@@ -165,12 +185,12 @@ void model::destroy(int w) {
 
 void model::request_close(int w) {
     const int tree = windows_[w].tree;
-    const bool vetoed = !windows_[w].silent && tell(kind::window, w, event::close_request);
+    const bool vetoed = tell_window(w, event::close_request);
     if (!vetoed && still(w, tree)) close(w);
 }
 
 void model::change_title(int w, int old, int now) {
-    if (old != now && !windows_[w].silent) tell(kind::window, w, event::title_change);
+    if (old != now) tell_window(w, event::title_change);
 }
 
 void model::post_end(int w) {

@@ -26,6 +26,12 @@ constexpr const char* verbs[] = {"open",
                                  "destroy_toplevel",
                                  "click_task",
                                  "click_task_close",
+                                 "set_callback",
+                                 "clear_callback",
+                                 "set_other_callback",
+                                 "set_flag",
+                                 "add_content",
+                                 "drop_and_new",
                                  "manager_open",
                                  "manager_show",
                                  "manager_hide",
@@ -35,12 +41,23 @@ constexpr const char* verbs[] = {"open",
                                  "manager_extend",
                                  "manager_retract",
                                  "manager_keep",
+                                 "manager_set_callback",
+                                 "manager_clear_callback",
+                                 "manager_add_widget",
+                                 "manager_remove_widget",
                                  "notification_show",
                                  "notification_destroy",
                                  "notification_manager",
                                  "notification_click_close",
                                  "notification_click_action",
                                  "notification_destroy_popup",
+                                 "notification_set",
+                                 "notification_drop_and_new",
+                                 "null_handle",
+                                 "timeout",
+                                 "indicator_show",
+                                 "indicator_action",
+                                 "indicator_destroy",
                                  "run"};
 static_assert(std::size(verbs) == static_cast<std::size_t>(fuzz::verb::count));
 
@@ -54,14 +71,14 @@ constexpr const char* kinds[] = {"window", "manager", "notification"};
 
 std::string fuzz::text_of(const call& made) {
     return std::string(verbs[static_cast<int>(made.what)]) + "(" + std::to_string(made.who) + ", " +
-           std::to_string(made.with) + ")";
+           std::to_string(made.with) + (made.elsewhere ? ", elsewhere)" : ")");
 }
 
 std::string fuzz::text_of(const story& told) {
     std::string text;
     for (const step& one : told)
         text += std::string(kinds[static_cast<int>(one.of)]) + std::to_string(one.who) + "." +
-                events[static_cast<int>(one.what)] + " ";
+                events[static_cast<int>(one.what)] + (one.answers.empty() ? " " : "(" + one.answers + ") ");
     return text;
 }
 
@@ -70,15 +87,21 @@ std::string fuzz::text_of(const picture& seen) {
     for (const auto& w : seen.windows)
         text << "window opened " << w.opened << " visible " << w.visible << " destroyed " << w.destroyed
              << " toplevel " << w.toplevel << " mapped " << w.mapped << " task " << w.task << " instance "
-             << w.instance << " manager " << w.manager << "\n";
+             << w.instance << " manager " << w.manager << " title " << w.title << " label " << w.label
+             << "\n";
     for (const auto& m : seen.managers) {
         text << "manager opened " << m.opened << " visible " << m.visible << " destroyed " << m.destroyed
-             << " stack";
+             << " keep " << m.keep << " stack";
         for (const int n : m.stack) text << " " << n;
         text << "\n";
     }
     for (const auto& n : seen.notifications)
         text << "notification opened " << n.opened << " visible " << n.visible << " destroyed " << n.destroyed
              << "\n";
+    for (const auto& row : seen.rows) {
+        text << "row";
+        for (const int w : row) text << " " << w;
+        text << "\n";
+    }
     return text.str();
 }

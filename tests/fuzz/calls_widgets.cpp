@@ -67,3 +67,20 @@ fuzz::task_buttons fuzz::find_task(const std::string& window_id) {
     }
     return {};
 }
+
+std::vector<std::vector<std::string>> fuzz::task_rows() {
+    std::vector<std::vector<std::string>> rows;
+    for (GtkWidget* panel : toplevels("zo-manager")) {
+        GtkWidget* row = find_class(panel, "manager-taskbox-center");
+        if (!row) continue;
+        std::vector<std::string> names;
+        GList* paddings = gtk_container_get_children(GTK_CONTAINER(row));
+        for (GList* item = paddings; item; item = item->next)
+            if (GtkWidget* button =
+                    find(GTK_WIDGET(item->data), [](GtkWidget* w) { return GTK_IS_BUTTON(w); }))
+                names.push_back(gtk_widget_get_name(button));
+        g_list_free(paddings);
+        rows.push_back(names);
+    }
+    return rows;
+}

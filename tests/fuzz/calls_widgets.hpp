@@ -22,4 +22,7 @@ struct task_buttons {
 };
 task_buttons find_task(const std::string& window_id);
 
+// For each panel the names of its buttons in their order: those of tasks are the windows' ids.
+std::vector<std::vector<std::string>> task_rows();
+
 }  // namespace fuzz

@@ -3,13 +3,9 @@
 
 #include "fuzz/calls_widgets.hpp"
 
+#include <algorithm>
+
 using fuzz::world;
-
-namespace {
-
-std::string name_of(const char* what, int index) { return std::string(what) + std::to_string(index); }
-
-}  // namespace
 
 bool world::answers(const occasion& when) const {
     const auto found = programs_.find(when);
@@ -17,11 +13,15 @@ bool world::answers(const occasion& when) const {
 }
 
 bool world::tell(kind of, int who, event what) {
-    told_.push_back({of, who, what});
+    const std::size_t at = told_.size();
+    told_.push_back({of, who, what, {}});
     reaction& program = programs_[{of, who, what}];
     if (program.left > 0) {
         --program.left;
-        for (const call& made : std::vector(program.calls)) make(made);
+        for (const call& made : std::vector(program.calls)) {
+            const bool done = make(made);
+            told_[at].answers += done ? "1" : "0";
+        }
     }
     return program.veto;
 }
@@ -33,53 +33,23 @@ world::world(reactions programs) : programs_(std::move(programs)) {
 }
 
 void world::prepare_window(int w) {
-    static const std::vector<std::pair<event, bool (*)(zo_window_ptr, std::function<void(zo_window_ptr)>)>>
-        setters{{event::open, zo_window_set_window_open_callback},
-                {event::show, zo_window_set_window_show_callback},
-                {event::hide, zo_window_set_window_hide_callback},
-                {event::close, zo_window_set_window_close_callback},
-                {event::activate, zo_window_set_window_activate_callback},
-                {event::restore, zo_window_set_window_restore_callback},
-                {event::destroy, zo_window_set_window_destroy_callback}};
-    windows_[w] = zo_window_new(name_of("fuzz-window-", w));
-    zo_window_set_class(windows_[w], name_of("fuzz-window-", w));
-    for (const auto& [what, set] : setters)
-        if (answers({kind::window, w, what}))
-            set(windows_[w], [this, w, what = what](const zo_window_ptr&) { tell(kind::window, w, what); });
-    if (answers({kind::window, w, event::close_request}))
-        zo_window_set_window_close_request_callback(windows_[w], [this, w](const zo_window_ptr&) {
-            return tell(kind::window, w, event::close_request);
-        });
-    if (answers({kind::window, w, event::title_change}))
-        zo_window_set_window_title_text_change_callback(windows_[w],
-                                                        [this, w](const zo_window_ptr&, const std::string&) {
-                                                            tell(kind::window, w, event::title_change);
-                                                        });
-    if (answers({kind::window, w, event::pushed}))
-        zo_window_set_window_event_callback(windows_[w],
-                                            [this, w](const zo_window_ptr&, const zo_window_event_ptr&) {
-                                                tell(kind::window, w, event::pushed);
-                                            });
+    window_names_[w] = "fuzz-window-" + std::to_string(names_++);
+    windows_[w] = zo_window_new(window_names_[w]);
+    zo_window_set_class(windows_[w], window_names_[w]);
+    for (const event what : window_events)
+        if (answers({kind::window, w, what})) set_callback(w, what, true);
 }
 
 void world::prepare_manager(int m) {
-    static const std::vector<
-        std::pair<event, bool (*)(zo_window_manager_ptr, std::function<void(zo_window_manager_ptr)>)>>
-        setters{{event::open, zo_window_manager_on_open},
-                {event::show, zo_window_manager_on_show},
-                {event::hide, zo_window_manager_on_hide},
-                {event::close, zo_window_manager_on_close},
-                {event::destroy, zo_window_manager_on_destroy}};
     managers_[m] = zo_window_manager_new("");
-    for (const auto& [what, set] : setters)
-        if (answers({kind::manager, m, what}))
-            set(managers_[m],
-                [this, m, what = what](const zo_window_manager_ptr&) { tell(kind::manager, m, what); });
+    for (const event what : manager_events)
+        if (answers({kind::manager, m, what})) set_manager_callback(m, what, true);
 }
 
 void world::prepare_notification(int n) {
+    notification_names_[n] = "fuzz-notification-" + std::to_string(names_++);
     notifications_[n] = zo_notification_new();
-    zo_notification_set_title(notifications_[n], name_of("fuzz-notification-", n));
+    zo_notification_set_title(notifications_[n], notification_names_[n]);
     zo_notification_set_content(notifications_[n], "<b>content</b>");
     const auto told = [this, n](event what) {
         if (answers({kind::notification, n, what})) tell(kind::notification, n, what);
@@ -97,25 +67,28 @@ world::~world() {
         zo_window_manager_destroy(manager);
     }
     for (const zo_notification_ptr& notification : notifications_) zo_notification_destroy(notification);
+    make({verb::indicator_destroy});
+    zo_system_service_timeout_clear(timeout_);
     make({verb::run});
     // The panel of a manager that was destroyed before it was closed stays on screen, and keeps it.
     for (GtkWidget* panel : toplevels("zo-manager")) gtk_widget_destroy(panel);
     make({verb::run});
+    for (int m = 0; m < managers_count; ++m)
+        for (int place = 0; place < widget_places; ++place) let_widget_go(m, place);
 }
 
 GtkWidget* world::toplevel(int w) const {
-    const std::vector<GtkWidget*> found = toplevels(name_of("fuzz-window-", w));
+    const std::vector<GtkWidget*> found = toplevels(window_names_[w]);
     return found.empty() ? nullptr : found.front();
 }
 
 GtkWidget* world::popup(int n) const {
     for (GtkWidget* popup : toplevels("zo-notification"))
-        if (name_of("fuzz-notification-", n) == gtk_window_get_title(GTK_WINDOW(popup))) return popup;
+        if (notification_names_[n] == gtk_window_get_title(GTK_WINDOW(popup))) return popup;
     return nullptr;
 }
 
-fuzz::picture world::look() const {
-    picture seen{};
+void world::look_at_windows(picture& seen) const {
     for (int w = 0; w < windows_count; ++w) {
         picture::window& it = seen.windows[w];
         zo_window_is_opened(windows_[w], &it.opened);
@@ -124,18 +97,44 @@ fuzz::picture world::look() const {
         GtkWidget* window = toplevel(w);
         it.toplevel = window;
         it.mapped = window && gtk_widget_get_visible(window);
-        it.task = find_task(name_of("fuzz-window-", w)).task;
+        it.task = find_task(window_names_[w]).task;
         it.instance = zo_window_instance_id(windows_[w]);
+        std::string title;
+        zo_window_get_title(windows_[w], title);
+        it.title = std::atoi(title.c_str());
+        GtkWidget* const label = window ? find_class(window, "title-text") : nullptr;
+        if (label) it.label = gtk_label_get_text(GTK_LABEL(label));
         const zo_window_manager_ptr manager = zo_window_get_window_manager(windows_[w]);
         it.manager = -1;
         for (int m = 0; m < managers_count; ++m)
             if (manager && manager == managers_[m]) it.manager = m;
     }
+}
+
+std::vector<std::vector<int>> world::look_at_rows() const {
+    std::vector<std::vector<int>> rows;
+    for (const std::vector<std::string>& names : task_rows()) {
+        std::vector<int> row;
+        for (const std::string& name : names) {
+            const auto place = std::find(window_names_.begin(), window_names_.end(), name);
+            if (place != window_names_.end()) row.push_back(static_cast<int>(place - window_names_.begin()));
+        }
+        if (!row.empty()) rows.push_back(row);
+    }
+    std::sort(rows.begin(), rows.end());
+    return rows;
+}
+
+fuzz::picture world::look() const {
+    picture seen{};
+    look_at_windows(seen);
+    seen.rows = look_at_rows();
     for (int m = 0; m < managers_count; ++m) {
         picture::manager& it = seen.managers[m];
         zo_window_manager_is_opened(managers_[m], &it.opened);
         zo_window_manager_is_visible(managers_[m], &it.visible);
         zo_window_manager_is_destroyed(managers_[m], &it.destroyed);
+        it.keep = zo_window_manager_get_keep_extended(managers_[m]);
         std::map<unsigned long, GtkWidget*>* stack = nullptr;
         zo_window_manager_get_local_notification_container(managers_[m], &stack);
         for (int n = 0; n < notifications_count; ++n)

@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
+#include "fuzz/calls_tables.hpp"
 #include "fuzz/calls_widgets.hpp"
 #include "fuzz/calls_world.hpp"
+
+#include <thread>
 
 using fuzz::world;
 
@@ -30,13 +33,21 @@ bool ask_to_close(GtkWidget* toplevel) {
 }  // namespace
 
 bool world::make(const call& made) {
+    if (!made.elsewhere) return make_here(made);
+    bool done = false;
+    std::thread([&] { done = make_here(made); }).join();
+    return done;
+}
+
+bool world::make_here(const call& made) {
     if (made.what == verb::run) {
         while (g_main_context_pending(nullptr)) g_main_context_iteration(nullptr, FALSE);
         return true;
     }
     if (made.what < verb::manager_open) return make_window_call(made);
     if (made.what < verb::notification_show) return make_manager_call(made);
-    return make_notification_call(made);
+    if (made.what < verb::null_handle) return make_notification_call(made);
+    return make_process_call(made);
 }
 
 bool world::make_window_call(const call& made) {
@@ -73,7 +84,7 @@ bool world::make_window_call(const call& made) {
         case verb::leave:
             return zo_window_set_window_manager(window, {});
         default:
-            return press_window(made);
+            return made.what < verb::set_callback ? press_window(made) : make_other_window_call(made);
     }
 }
 
@@ -91,7 +102,7 @@ bool world::press_window(const call& made) {
         default:
             break;
     }
-    const task_buttons found = find_task("fuzz-window-" + std::to_string(made.who));
+    const task_buttons found = find_task(window_names_[made.who]);
     return press(made.what == verb::click_task ? found.task : found.close);
 }
 
@@ -110,12 +121,14 @@ bool world::make_manager_call(const call& made) {
             return zo_window_manager_destroy(manager);
         case verb::manager_destroy_for:
             return zo_window_manager_destroy(manager, "fuzz", made.with);
-        case verb::manager_extend:
-            return zo_window_manager_extend(manager);
-        case verb::manager_retract:
-            return zo_window_manager_retract(manager);
-        default:
+        case verb::manager_keep:
             return zo_window_manager_set_keep_extended(manager, made.with % 2);
+        case verb::manager_set_callback:
+        case verb::manager_clear_callback:
+            return set_manager_callback(made.who, event_of(made, manager_events),
+                                        made.what == verb::manager_set_callback);
+        default:
+            return make_widget_call(made);
     }
 }
 
@@ -130,9 +143,18 @@ bool world::make_notification_call(const call& made) {
             const int m = made.with % (managers_count + 1) - 1;
             return zo_notification_set_manager(notification, m < 0 ? zo_window_manager_ptr() : managers_[m]);
         }
+        case verb::notification_set:
+            return set_something(notification, made.with);
+        case verb::notification_drop_and_new:
+            zo_notification_destroy(notification);
+            prepare_notification(made.who);
+            return true;
         default:
-            break;
+            return press_notification(made);
     }
+}
+
+bool world::press_notification(const call& made) {
     GtkWidget* const found = popup(made.who);
     if (made.what == verb::notification_destroy_popup) return end(found);
     if (!found) return false;
