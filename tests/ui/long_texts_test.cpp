@@ -27,6 +27,8 @@ const std::vector<long_text>& long_texts() {
         {"WideCharacters", times(4000, "\ufdfd")},
         {"NotUtf8", times(20000, "\xff\xfe")},
         {"BidiControls", times(4000, "\u202eabc \u202c\u2067\u05d0 \u2069\u200f1")},
+        {"OpenDirections", times(60000, "\u202e\u2067\u202b")},
+        {"Marks", "a" + times(60000, "\u0301\u0302")},
         {"DeepTags", times(3000, "<b><i>") + "deep" + times(3000, "</i></b>")}};
     return all;
 }
@@ -123,6 +125,27 @@ TEST(LongText, ThatFitsIsLeftAlone) {
     EXPECT_EQ(gtk_label_get_ellipsize(GTK_LABEL(shown)), PANGO_ELLIPSIZE_NONE);
     zo_notification_destroy(notification);
     test::run_tasks();
+}
+
+std::string content_shown(const std::string& content) {
+    const zo_notification_ptr notification = zo_notification_new();
+    zo_notification_set_content(notification, content);
+    zo_notification_open_show(notification);
+    test::run_tasks();
+    GtkWidget* const label = test::find_class(test::toplevels("zo-notification").at(0), "content-text");
+    std::string shown = gtk_label_get_text(GTK_LABEL(label));
+    zo_notification_destroy(notification);
+    test::run_tasks();
+    return shown;
+}
+
+// What has no width is cut where it stands in a long row: laying it out would hold the loop up for seconds.
+TEST(LongText, HasNoLongRowsOfCharactersWithoutWidth) {
+    const std::string row = times(10000, "\u202e");
+    EXPECT_EQ(content_shown("before" + row + "after"), "before" + times(8, "\u202e") + "after");
+    // Marks that a reader sees are kept.
+    const std::string marked = times(5000, "a\u0301\u0302");
+    EXPECT_EQ(content_shown(marked), marked.substr(0, 4000 / 3 * 5 + 1) + "…");
 }
 
 }  // namespace

@@ -11,6 +11,9 @@ constexpr std::size_t usual = 256;         // bytes, on which no desktop ends
 constexpr std::size_t measurable = 20000;  // bytes, that are laid out only to see whether they fit
 constexpr glong longest = 4000;            // characters; more take long to lay out
 constexpr glong longest_tooltip = 1000;
+// Marks and direction controls, one after the other: more show nothing, and Pango's wrapping takes a time
+// that is quadratic in their number, of seconds for `longest`.
+constexpr int most_without_width = 8;
 constexpr int most_lines = 8;
 constexpr int line_characters = 100;
 
@@ -27,8 +30,13 @@ int count_line_breaks(const char* text) {
 // The first characters in one line.
 std::string in_one_line(const char* text, glong characters) {
     std::string line;
-    for (; *text && characters > 0; text = g_utf8_next_char(text), --characters) {
-        if (is_line_break(g_utf8_get_char(text)))
+    int without_width = 0;
+    for (; *text && characters > 0; text = g_utf8_next_char(text)) {
+        const gunichar c = g_utf8_get_char(text);
+        without_width = g_unichar_iszerowidth(c) ? without_width + 1 : 0;
+        if (without_width > most_without_width) continue;
+        --characters;
+        if (is_line_break(c))
             line += ' ';
         else
             line.append(text, static_cast<std::size_t>(g_utf8_next_char(text) - text));
