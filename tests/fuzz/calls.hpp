@@ -66,6 +66,7 @@ enum class verb {
     notification_click_close,
     notification_click_action,
     notification_destroy_popup,
+    notification_click_link,
     notification_set,
     notification_drop_and_new,
     // the process
@@ -98,6 +99,7 @@ enum class event {
     title_change,
     pushed,
     action,
+    link,
     count
 };
 

@@ -36,8 +36,8 @@ class model {
         std::set<int> listed, stacked;
     };
     struct notification {
-        bool opened = false, visible = false, destroyed = false, closing = false;
-        int who = 0, manager = -1, listed_in = -1, stacked_in = -2;
+        bool opened = false, visible = false, destroyed = false, closing = false, end_after_link = false;
+        int links = 0, who = 0, manager = -1, listed_in = -1, stacked_in = -2;
     };
 
     void post(std::function<void()> task) { queue_.push_back(std::move(task)); }
@@ -67,7 +67,7 @@ class model {
     bool make_notification_call(const call& made);
     void notification_open(int n), notification_show(int n), notification_hide(int n),
         notification_close(int n);
-    void list_in(int n, int m), stack_in(int n, int m);
+    void follow_link(int n), list_in(int n, int m), stack_in(int n, int m);
 
     reactions programs_;
     story told_;

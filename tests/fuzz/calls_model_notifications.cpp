@@ -24,6 +24,10 @@ bool model::make_notification_call(const call& made) {
             tell_notification(n, event::action);
             notification_close(n);
             return true;
+        case verb::notification_click_link:
+            if (!it.opened) return false;
+            follow_link(n);
+            return true;
         case verb::notification_set:
             return true;
         case verb::notification_drop_and_new:
@@ -69,6 +73,10 @@ void model::notification_hide(int n) {
 void model::notification_close(int n) {
     notification& it = notifications_[n];
     if (it.destroyed || it.closing) return;
+    if (it.links > 0) {
+        it.end_after_link = true;
+        return;
+    }
     it.closing = true;
     it.opened = it.visible = false;
     list_in(n, -1);
@@ -76,6 +84,15 @@ void model::notification_close(int n) {
     it.manager = -1;
     tell_notification(n, event::close);
     it.destroyed = true;
+}
+
+// A notification that is to close stays until its callback of links has returned.
+void model::follow_link(int n) {
+    notification& it = notifications_[n];
+    ++it.links;
+    tell_notification(n, event::link);
+    if (--it.links == 0 && std::exchange(it.end_after_link, false))
+        post([=, this] { notification_close(n); });
 }
 
 void model::list_in(int n, int m) {

@@ -111,11 +111,6 @@ constexpr setter notification_setters[] = {
     [](const zo_notification_ptr& n) { return zo_notification_set_is_markup(n, false); },
     [](const zo_notification_ptr& n) { return zo_notification_set_timeout(n, 3600000); },
     [](const zo_notification_ptr& n) { return zo_notification_add_action(n, "more", "More", nullptr); },
-    [](const zo_notification_ptr& n) {
-        return zo_notification_on_activate_link_callback(
-            n, [](const zo_notification_ptr&, std::string&) { return true; });
-    },
-    [](const zo_notification_ptr& n) { return zo_notification_on_activate_link_callback(n, nullptr); },
 };
 
 }  // namespace

@@ -51,6 +51,7 @@ constexpr const char* verbs[] = {"open",
                                  "notification_click_close",
                                  "notification_click_action",
                                  "notification_destroy_popup",
+                                 "notification_click_link",
                                  "notification_set",
                                  "notification_drop_and_new",
                                  "null_handle",
@@ -62,7 +63,7 @@ constexpr const char* verbs[] = {"open",
 static_assert(std::size(verbs) == static_cast<std::size_t>(fuzz::verb::count));
 
 constexpr const char* events[] = {"open",    "show",          "hide",         "close",  "activate", "restore",
-                                  "destroy", "close_request", "title_change", "pushed", "action"};
+                                  "destroy", "close_request", "title_change", "pushed", "action",   "link"};
 static_assert(std::size(events) == static_cast<std::size_t>(fuzz::event::count));
 
 constexpr const char* kinds[] = {"window", "manager", "notification"};

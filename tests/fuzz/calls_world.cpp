@@ -57,6 +57,11 @@ void world::prepare_notification(int n) {
     zo_notification_add_action(notifications_[n], "act", "Act",
                                [told](const std::string&) { told(event::action); });
     zo_notification_on_close(notifications_[n], [told](const zo_notification_ptr&) { told(event::close); });
+    zo_notification_on_activate_link_callback(notifications_[n],
+                                              [told](const zo_notification_ptr&, std::string&) {
+                                                  told(event::link);
+                                                  return true;  // GTK would open it
+                                              });
 }
 
 world::~world() {

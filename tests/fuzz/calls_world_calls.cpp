@@ -19,6 +19,13 @@ bool end(GtkWidget* widget) {
     return widget;
 }
 
+bool follow_link(GtkWidget* popup) {
+    GtkWidget* const content = popup ? fuzz::find_class(popup, "content-text") : nullptr;
+    gboolean handled = FALSE;
+    if (content) g_signal_emit_by_name(content, "activate-link", "https://a", &handled);
+    return handled;
+}
+
 // What GDK makes of a WM_DELETE_WINDOW.
 bool ask_to_close(GtkWidget* toplevel) {
     if (!toplevel) return false;
@@ -157,6 +164,7 @@ bool world::make_notification_call(const call& made) {
 bool world::press_notification(const call& made) {
     GtkWidget* const found = popup(made.who);
     if (made.what == verb::notification_destroy_popup) return end(found);
+    if (made.what == verb::notification_click_link) return follow_link(found);
     if (!found) return false;
     return press(made.what == verb::notification_click_action ? find_button(found, "act")
                                                               : find_class(found, "title-close"));
