@@ -57,8 +57,11 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
         return fuzz::toplevels("fuzzed").at(0);
     }();
     const std::filesystem::path sheet = folder / "x" / "style.css";
-    std::ofstream(sheet, std::ios::binary) << "@define-color " << sentinel << " #123456;\n"
-                                           << std::string_view(reinterpret_cast<const char*>(data), size);
+    const std::string_view text(reinterpret_cast<const char*>(data), size);
+    // GTK's parser steps over the end of a sheet, once for each bracket or comment that is still open, and
+    // reads what happens to stand there: zeroes end it.
+    const std::string beyond(size + 1, '\0');
+    std::ofstream(sheet, std::ios::binary) << "@define-color " << sentinel << " #123456;\n" << text << beyond;
     const bool taken = use_theme();
     fuzz::check(is_in_effect(shown) == taken, [&] {
         return std::string(taken ? "a sheet that was taken is not" : "a sheet that was refused is") +
