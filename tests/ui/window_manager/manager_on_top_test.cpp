@@ -92,6 +92,25 @@ TEST_P(ManagerOnTop, OfWindowsThatAreRaised) {
     gtk_widget_destroy(second);
 }
 
+// A frame is a popup with a window that is looked after. Not every window manager tells of a raised one in
+// its list.
+TEST_P(ManagerOnTop, OfFramesThatAreRaised) {
+    GtkWidget* frame = plain_popup();
+    GdkWindow* native = gtk_widget_get_window(frame);
+    const GdkAtom state = gdk_atom_intern("WM_STATE", FALSE);
+    const unsigned long normal[] = {1, None};
+    gdk_property_change(native, state, state, 32, GDK_PROP_MODE_REPLACE,
+                        reinterpret_cast<const guchar*>(normal), 2);
+    for (int round = 0; round < 2; ++round) {
+        gdk_window_lower(native);  // the server tells of no raising of what is highest already
+        gdk_window_raise(native);
+        gdk_display_sync(gdk_display_get_default());
+        EXPECT_GT(height_of(frame), height_of(top_));
+        EXPECT_TRUE(becomes_higher(top_, frame));
+    }
+    gtk_widget_destroy(frame);
+}
+
 // A menu that hangs over the panel is not covered when the panel goes above a window.
 TEST_P(ManagerOnTop, ButNotOfOtherPopups) {
     GtkWidget* window = plain_window(false);

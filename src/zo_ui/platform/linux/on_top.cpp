@@ -129,15 +129,15 @@ void restack_all() {
     gdk_x11_display_error_trap_pop_ignored(display);
 }
 
-// Frames and menus are left out: a window manager that raises a frame changes its list. One that is only
-// moved, again and again while somebody drags it, keeps what it is above.
+// Frames count, too: fluxbox raises them without changing its list. One that is only moved, again and again
+// while somebody drags it, keeps what it is above.
 bool may_be_higher(const XConfigureEvent& event) {
     static XConfigureEvent last{};
     const XConfigureEvent before = std::exchange(last, event);
     const bool is_moved = before.x != event.x || before.y != event.y || before.width != event.width ||
                           before.height != event.height;
     const bool is_same = before.window == event.window && before.above == event.above;
-    return !event.override_redirect && !(is_same && is_moved);
+    return !(is_same && is_moved);
 }
 
 bool is_kept(Window window) {
@@ -149,7 +149,7 @@ bool is_kept(Window window) {
 
 bool changes_stack(const XEvent& x) {
     if (x.type == MapNotify) return !is_kept(x.xmap.window);
-    if (x.type == ConfigureNotify) return may_be_higher(x.xconfigure);
+    if (x.type == ConfigureNotify) return !is_kept(x.xconfigure.window) && may_be_higher(x.xconfigure);
     return x.type == PropertyNotify &&
            x.xproperty.atom == gdk_x11_get_xatom_by_name("_NET_CLIENT_LIST_STACKING");
 }
