@@ -3,6 +3,7 @@
 import os
 import re
 import subprocess
+import tempfile
 import time
 
 LIMIT = 8  # seconds that only a failure takes
@@ -29,8 +30,11 @@ def becomes(seen, wanted, what):
 class Driver:
     def __init__(self, program):
         self.program = program
-        self.process = subprocess.Popen([program], stdin=subprocess.PIPE, stdout=subprocess.PIPE, text=True)
+        self.errors = tempfile.TemporaryFile("w+")
+        self.process = subprocess.Popen([program], stdin=subprocess.PIPE, stdout=subprocess.PIPE, stderr=self.errors,
+                                        text=True)
         self.pid = self.process.pid
+        self.heard = []
 
     def ask(self, *words):
         self.process.stdin.write(" ".join(map(str, words)) + "\n")
@@ -48,18 +52,36 @@ class Driver:
         text = becomes(lambda: self.ask("part", name, style_class), lambda text: text != "-", f"no {style_class}")
         return tuple(map(int, text.split()))
 
+    def hears(self):
+        """The words that callbacks told and nobody waited for yet."""
+        self.heard += self.ask("told").split()
+        return self.heard
+
+    def forget(self):
+        self.hears()
+        self.heard = []
+
     def told(self, word):
-        said = []
-        becomes(lambda: said.append(self.ask("told")) or said, lambda all: any(word in one for one in all),
-                f"not told: {word}")
+        """Waits for a word, and forgets it and those before it."""
+        becomes(self.hears, lambda heard: word in heard, f"not told: {word}")
+        self.heard = self.heard[self.heard.index(word) + 1:]
+
+    def complaints(self):
+        """What the toolkit warned of so far."""
+        self.errors.seek(0)
+        return [line.strip() for line in self.errors if re.search(r"(WARNING|CRITICAL|ERROR) \*\*", line)]
 
     def end(self):
         self.process.stdin.close()
         try:
-            return self.process.wait(LIMIT)
+            code = self.process.wait(LIMIT)
         except subprocess.TimeoutExpired:
             self.process.kill()
             raise Failed("does not end")
+        if code != 0:
+            raise Failed(f"the program ended with {code}")
+        if said := self.complaints():
+            raise Failed("it warned: " + "; ".join(said))
 
 
 def states(xid):
@@ -78,8 +100,15 @@ def is_viewable(xid):
     return "IsViewable" in run("xwininfo", "-id", xid)
 
 
+def is_hidden(xid):
+    """There, and not on the screen."""
+    return re.search(r"Map State: IsUn\w+", run("xwininfo", "-id", xid)) is not None
+
+
 def is_gone(xid):
-    return "IsViewable" not in run("xwininfo", "-id", xid)
+    """The server knows no such window any more."""
+    looked = subprocess.run(["xwininfo", "-id", xid], capture_output=True, text=True, timeout=LIMIT)
+    return looked.returncode != 0 and "No such window" in looked.stderr
 
 
 def active_window():
@@ -104,6 +133,17 @@ def height_of(xid):
     return len(listed) - listed.index(top) if top in listed else -1
 
 
+def is_above(higher, lower, what):
+    """Waits for it; a window that is not there is above nothing, and nothing is above it."""
+    becomes(lambda: (height_of(higher), height_of(lower)), lambda h: 0 < h[1] < h[0], f"{what} above")
+
+
+def raise_window(xid):
+    """The server has done it, or given it to the window manager."""
+    run("xdotool", "windowraise", xid)
+    run("xprop", "-root", "_NET_SUPPORTING_WM_CHECK")
+
+
 def pointer(*words):
     run("xdotool", *map(str, words))
 
@@ -113,5 +153,15 @@ def click(place):
     pointer("mousemove", left + width // 2, top + height // 2, "click", 1)
 
 
+def manager():
+    return os.environ["ZO_SESSION_WM"]
+
+
 def has_manager():
-    return os.environ["ZO_SESSION_WM"] != "none"
+    return manager() != "none"
+
+
+def work_area():
+    """Left, top, width and height of what panels leave of the screen."""
+    numbers = re.findall(r"\d+", run("xprop", "-root", "_NET_WORKAREA"))
+    return tuple(map(int, numbers[:4]))

@@ -3,14 +3,17 @@
 import os
 import signal
 import subprocess
+import time
 from pathlib import Path
 
-from desktop import becomes, geometry, is_viewable, run, states
-from window_checks import HINTS, keeps_hints_of_a_pair, moves, shown, vetoes_closing
+from desktop import becomes, geometry, is_above, is_viewable, manager, run, states
+from panel_checks import edge_is_alive, goes_up, panel_of
+from window_checks import HINTS, keeps_hints_of_a_pair, moves, placed, shown, vetoes_closing
 
 COMMANDS = {"openbox": ["openbox", "--sm-disable"], "metacity": ["metacity", "--sm-disable"]}
-REPLACE = {"fluxbox": "-replace"}
-wm = os.environ["ZO_SESSION_WM"]
+CANNOT_REPLACE = {"fluxbox"}
+PATIENCE = 2  # seconds until a window manager that hangs at its end is killed
+wm = manager()
 started = []
 
 
@@ -43,43 +46,80 @@ def start(*options):
     started.append(subprocess.Popen([*COMMANDS.get(wm, [wm]), *options], stdout=log, stderr=log))
 
 
-def window_is_well(driver, xid):
-    becomes(lambda: run("xprop", "-root", "_NET_CLIENT_LIST"), lambda text: hex(int(xid)) in text, "not taken over")
-    becomes(lambda: is_viewable(xid), bool, "viewable under the new window manager")
-    becomes(lambda: states(xid), HINTS.issubset, "state under the new window manager")
+def everything(driver):
+    """A panel, two windows and a notification: the ids by name."""
+    panel = panel_of(driver)
+    driver.ask("notify", "1")
+    popup = driver.xid(".zo-notification")
+    becomes(lambda: is_viewable(popup), bool, "popup on screen")
+    return {"panel": panel, "popup": popup, "b": shown(driver, "b"), "a": shown(driver, "a")}
+
+
+def windows_are_well(driver, xids):
+    for name in ("a", "b"):
+        becomes(lambda: run("xprop", "-root", "_NET_CLIENT_LIST"), lambda text: hex(int(xids[name])) in text,
+                f"{name} not taken over")
+        becomes(lambda: is_viewable(xids[name]), bool, f"{name} viewable under the new window manager")
+        becomes(lambda: states(xids[name]), HINTS.issubset, f"state of {name} under the new window manager")
     moves(driver)
     keeps_hints_of_a_pair(driver)
     vetoes_closing(driver)
+    goes_up(driver, "b", *geometry(xids["popup"])[:2])
+    is_above(xids["popup"], xids["b"], "notification")
+    edge_is_alive(driver)
+    is_above(xids["panel"], xids["a"], "panel")
 
 
 def killed(driver):
-    xid = shown(driver, "a")
+    xids = everything(driver)
     old = manager_pid()
     os.kill(old, signal.SIGKILL)
     becomes(lambda: has_ended(old), bool, "window manager gone")
     becomes(check_window, "".__eq__, "its window gone")
-    driver.ask("move", "a", 90, 95)
+    placed(driver, "a", xids["a"], 90, 95)
+    driver.forget()
     driver.ask("pair", "a")
-    becomes(lambda: is_viewable(xid), bool, "viewable without a window manager")
+    for word in ("unmapped", "mapped"):
+        driver.told(word)
+    for name, xid in xids.items():
+        becomes(lambda: is_viewable(xid), bool, f"{name} viewable without a window manager")
     start()
     becomes(check_window, bool, "new window manager")
-    window_is_well(driver, xid)
+    windows_are_well(driver, xids)
+
+
+def ends(pid):
+    """As it is asked to, or as one that does not hear of it."""
+    os.kill(pid, signal.SIGTERM)
+    end = time.monotonic() + PATIENCE
+    while not has_ended(pid) and time.monotonic() < end:
+        check_window()
+    if not has_ended(pid):
+        os.kill(pid, signal.SIGKILL)
 
 
 def replaced(driver):
-    xid = shown(driver, "a")
+    xids = everything(driver)
     old, before = manager_pid(), check_window()
-    place = geometry(xid)
-    start(REPLACE.get(wm, "--replace"))
+    sizes = {name: geometry(xid)[2:] for name, xid in xids.items()}
+    if wm in CANNOT_REPLACE:
+        ends(old)
+    else:
+        start("--replace")
     becomes(lambda: has_ended(old), bool, "old window manager gone")
+    if wm in CANNOT_REPLACE:
+        becomes(check_window, "".__eq__, "its window gone")
+        before = ""  # the server gives ids out again
+        start()
     becomes(check_window, lambda window: window and window != before, "new window manager")
-    becomes(lambda: geometry(xid)[2:], place[2:].__eq__, "size")
-    window_is_well(driver, xid)
+    for name, xid in xids.items():
+        becomes(lambda: geometry(xid)[2:], sizes[name].__eq__, f"size of {name}")
+    windows_are_well(driver, xids)
 
 
 CHECKS = [
-    ("Windows outlive a window manager that is killed, and serve the next", killed, True),
-    ("Windows are well after a window manager was replaced", replaced, True),
+    ("Windows, panel and notification outlive a window manager that is killed, and serve the next", killed, True),
+    ("They are well after a window manager was replaced", replaced, True),
 ]
 
 

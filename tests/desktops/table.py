@@ -1,7 +1,8 @@
 #!/usr/bin/python3
 # SPDX-License-Identifier: MIT
 """table.py FOLDER WM...: the table of what run.py wrote to FOLDER/WM, on standard output. Fails, and tells, when a check
-did not hold that has no known difference, or when a known difference names no check."""
+does not end as it must, or when a known difference names no check."""
+import re
 import sys
 from pathlib import Path
 
@@ -9,8 +10,9 @@ from differences import DIFFERENCES
 
 HEAD = """# The library under several window managers
 
-Made by `script/desktops`; not written by hand. "yes": the check held. "-": it asks something of a window manager, and
-there is none. A number names a difference and its cause, below. What is checked, and by which programs, stands in
+Made by `script/desktops`; not written by hand. "yes": the check held. "no": it did not, for the cause that the
+number names, and ended as that cause lets it. "-": it asks something of a window manager, and there is none. The number
+of a cause stands also where the check held all the same. What is checked, and by which programs, stands in
 `tests/desktops/`.
 """
 
@@ -29,12 +31,12 @@ def numbered(cause):
 
 def cell(check, wm):
     outcome = seen[wm].get(check, "was not run")
-    kind, cause = DIFFERENCES.get((check, wm), ("", ""))
-    if outcome not in ("yes", "-") and kind != "differs":
+    usual = "yes|-" if wm == "none" else "yes"
+    pattern, cause = DIFFERENCES.get((check, wm), (usual, ""))
+    if not re.fullmatch(pattern, outcome):
         wrong.append(f"{wm}: {check}: {outcome}")
-    if kind == "differs":
-        return "differs " + numbered(cause)
-    return f"{outcome} {numbered(cause)}" if kind else outcome
+    said = outcome if outcome in ("yes", "-") else "no"
+    return f"{said} {numbered(cause)}" if cause else said
 
 
 print(HEAD)
