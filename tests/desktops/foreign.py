@@ -12,9 +12,9 @@ class Foreign:
 
     def __enter__(self):
         self.process = subprocess.Popen(["xmessage", "-title", TITLE, "-geometry", "500x300+300+400", "text"],
-                                        stdout=subprocess.DEVNULL)
-        self.xid = becomes(lambda: run("xdotool", "search", "--onlyvisible", "--name", f"^{TITLE}$").strip(), str.isdigit,
-                           "foreign window")
+                                        stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+        search = ("xdotool", "search", "--onlyvisible", "--name", f"^{TITLE}$")
+        self.xid = becomes(lambda: run(*search).strip(), str.isdigit, "foreign window")
         becomes(lambda: is_viewable(self.xid), bool, "foreign window on screen")
         return self
 

@@ -62,7 +62,7 @@ def windows_are_well(driver, xids):
         becomes(lambda: is_viewable(xids[name]), bool, f"{name} viewable under the new window manager")
         becomes(lambda: states(xids[name]), HINTS.issubset, f"state of {name} under the new window manager")
     moves(driver)
-    keeps_hints_of_a_pair(driver)
+    keeps_hints_of_a_pair(driver, 3)
     vetoes_closing(driver)
     goes_up(driver, "b", *geometry(xids["popup"])[:2])
     is_above(xids["popup"], xids["b"], "notification")

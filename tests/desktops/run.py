@@ -7,13 +7,14 @@ import sys
 
 import panel_checks
 import replacing_checks
+import tray_checks
 import window_checks
 import witness_checks
 from desktop import Driver, has_manager
 
 SUITES = {
     "desktop": [window_checks.CHECKS, panel_checks.CHECKS, witness_checks.CHECKS, replacing_checks.CHECKS],
-    "tray": [witness_checks.TRAY],
+    "tray": [tray_checks.CHECKS],
 }
 
 

@@ -43,10 +43,10 @@ def placed(driver, name, xid, *place):
     becomes(lambda: geometry(xid)[:2], place.__eq__, f"place, not {place}")
 
 
-def keeps_hints_of_a_pair(driver):
+def keeps_hints_of_a_pair(driver, times=10):
     other = shown(driver, "b")
     xid = shown(driver, "a")
-    for step in range(10):
+    for step in range(times):
         driver.forget()
         driver.ask("pair", "a")
         driver.told("unmapped")

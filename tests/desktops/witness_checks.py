@@ -1,15 +1,18 @@
 # SPDX-License-Identifier: MIT
-"""What other programs read: wmctrl, libwnck, assistive technology and the tray's host."""
+"""What other programs read: wmctrl, xdotool, libwnck and assistive technology."""
 import json
-import re
 from pathlib import Path
 
-from desktop import Failed, becomes, is_gone, is_viewable, run
+from desktop import Failed, active_window, becomes, geometry, is_gone, is_hidden, is_viewable, pointer, run
+from panel_checks import panel_of
 from window_checks import shown
 
 here = Path(__file__).resolve().parent
-BUTTONS = {"Exit the application", "How to use this window", "Save a picture of the window", "Go back", "Menu",
-           "Minimize the window", "Close the window", "Press me"}
+TOLD = {"Press me": "pressed", "Exit the application": "exit", "How to use this window": "help",
+        "Save a picture of the window": "photo", "Go back": "back"}
+BUTTONS = {*TOLD, "Menu", "Minimize the window", "Close the window"}
+LOCK = "The panel stays open. Click to let it slide away."
+PANEL_BUTTONS = {LOCK, "Title of a", "Act on 1", "Close the notification"}
 
 
 def accessible(*words):
@@ -23,6 +26,17 @@ def wmctrl_lists_it(driver):
     found = next(fields for fields in line if int(fields[0], 16) == int(xid))
     if int(found[2]) != driver.pid or found[4] != "Title of a":
         raise Failed(str(found))
+
+
+def xdotool_agrees(driver):
+    shown(driver, "b")
+    xid = shown(driver, "a")
+    driver.ask("activate", "a")
+    becomes(active_window, xid.__eq__, "active window")
+    for wanted, *words in ((xid, "search", "--all", "--pid", driver.pid, "--name", "^Title of a$"),
+                           (xid, "getactivewindow"), ("Title of a", "getwindowname", xid),
+                           (str(driver.pid), "getwindowpid", xid)):
+        becomes(lambda: run("xdotool", *map(str, words)).strip(), wanted.__eq__, f"xdotool {words[0]}")
 
 
 def libwnck_agrees(driver):
@@ -41,52 +55,70 @@ def buttons_have_names(driver):
             lambda lines: set(lines) == {f"push button: {name}" for name in BUTTONS}, "buttons")
 
 
+def press(driver, button, word, *window):
+    accessible("press", button, *window)
+    driver.told(word)
+
+
 def buttons_are_pressed(driver):
     xid = shown(driver, "a")
     becomes(lambda: accessible("names"), lambda text: "push button: Press me" in text, "buttons")
-    driver.ask("told")
-    accessible("press", "Press me")
-    driver.told("pressed")
-    accessible("press", "Minimize the window")
+    driver.forget()
+    for button, word in TOLD.items():
+        press(driver, button, word)
+    accessible("press", "Menu")
+    becomes(lambda: accessible("names"), lambda text: "push button: Entry" in text, "the menu's entry")
+    press(driver, "Entry", "entry")
+    press(driver, "Minimize the window", "hidden")
     becomes(lambda: driver.ask("state", "a"), "opened hidden".__eq__, "state after pressing hide")
+    becomes(lambda: is_hidden(xid), bool, "hidden")
+    shown(driver, "a")
+    press(driver, "Close the window", "closed")
     becomes(lambda: is_gone(xid), bool, "gone")
-    driver.ask("show", "a")
-    becomes(lambda: is_viewable(xid), bool, "viewable")
 
 
-def tray_is_read(driver):
-    driver.ask("tray")
-    item = becomes(lambda: run("gdbus", "call", "--session", "-d", "org.kde.StatusNotifierWatcher", "-o",
-                               "/StatusNotifierWatcher", "-m", "org.freedesktop.DBus.Properties.Get",
-                               "org.kde.StatusNotifierWatcher", "RegisteredStatusNotifierItems"),
-                   lambda text: "zo_desktops" in text, "registered")
-    name, path = re.search(r"'(:[\d.]+|[\w.]+)(/[\w/]*zo_desktops)'", item).groups()
-    for key, value in (("Id", "zo-desktops"), ("Title", "Desktops"), ("Status", "Active")):
-        text = run("gdbus", "call", "--session", "-d", name, "-o", path, "-m",
-                   "org.freedesktop.DBus.Properties.Get", "org.kde.StatusNotifierItem", key)
-        if f"'{value}'" not in text:
-            raise Failed(f"{key}: {text}")
+def panel_and_popup_are_pressed(driver):
+    panel = panel_of(driver, "extended")
+    xid = shown(driver, "a")
+    driver.ask("notify", "1")
+    becomes(lambda: accessible("names"), lambda text: all(f": {name}\n" in text for name in PANEL_BUTTONS), "buttons")
+    driver.forget()
+    press(driver, "Act on 1", "acted")
+    driver.told("dismissed")
+    driver.ask("notify", "2")
+    becomes(lambda: accessible("names"), lambda text: "Act on 2" in text, "the next one's buttons")
+    press(driver, "Close the notification", "dismissed")
+    driver.ask("hide", "a")
+    becomes(lambda: is_hidden(xid), bool, "hidden")
+    accessible("press", "Title of a", "")
+    becomes(lambda: is_viewable(xid), bool, "viewable after its task button was pressed")
+    accessible("press", LOCK)
+    pointer("mousemove", 600, 10)
+    pointer("mousemove", 600, 600)
+    becomes(lambda: geometry(panel)[1], (1 - geometry(panel)[3]).__eq__, "panel retracted")
+    press(driver, "Close the window", "closed", "")
+    becomes(lambda: is_gone(xid), bool, "gone")
 
 
-def xfce_panel_is_the_host(driver):
-    driver.ask("tray")
-    text = becomes(lambda: run("gdbus", "call", "--session", "-d", "org.freedesktop.DBus", "-o", "/", "-m",
-                               "org.freedesktop.DBus.GetConnectionUnixProcessID", "org.kde.StatusNotifierWatcher"),
-                   lambda text: "uint32" in text, "host")
-    pid = re.search(r"uint32 (\d+)", text)[1]
-    command = Path(f"/proc/{pid}/cmdline").read_text()
-    if "xfce4/panel" not in command and "xfce4-panel" not in command:
-        raise Failed(command)
-    tray_is_read(driver)
+def frames_are_active(driver):
+    """Those that are shown, and that which was activated."""
+    for name in ("a", "b"):
+        shown(driver, name)
+    for active, other in (("a", "b"), ("b", "a")):
+        driver.ask("activate", active)
+        wanted = {f"frame: Title of {active}: active showing", f"frame: Title of {other}: showing"}
+        becomes(lambda: accessible("windows").splitlines(), lambda lines: set(lines) == wanted, f"windows, not {wanted}")
+    driver.ask("hide", "b")
+    wanted = {"frame: Title of a: active showing"}
+    becomes(lambda: accessible("windows").splitlines(), lambda lines: set(lines) == wanted, f"windows, not {wanted}")
 
 
 CHECKS = [
     ("wmctrl lists the window, its title and its process", wmctrl_lists_it, True),
+    ("xdotool finds it by process and title, and as the active one", xdotool_agrees, True),
     ("libwnck reads the same title, process and hints", libwnck_agrees, True),
     ("AT-SPI finds every button by role and name", buttons_have_names, False),
-    ("AT-SPI presses them, and what they do is done", buttons_are_pressed, False),
-]
-TRAY = [
-    ("The tray icon is registered and read over D-Bus", tray_is_read, False),
-    ("its host is xfce4-panel", xfce_panel_is_the_host, False),
+    ("AT-SPI presses each, and what it does is done", buttons_are_pressed, False),
+    ("AT-SPI presses those of the panel and of a notification", panel_and_popup_are_pressed, False),
+    ("AT-SPI sees which windows are shown and which is active", frames_are_active, True),
 ]
