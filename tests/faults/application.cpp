@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 // An application that uses everything the library has and does as it is told on its standard input, while
 // faults happen around it. Each command is answered by a line on its standard output.
-#include <zo_ui/platform/linux.hpp>
+#include "faults/queries.hpp"
+
 #include <zo_ui/zo_ui.hpp>
 
 #include <gdk/gdkx.h>
@@ -88,39 +89,6 @@ void tell_panel() {
     answer(std::to_string(found));
 }
 
-// Everything that takes a window of somebody else's, for one that may be gone.
-void query(Display* display, Window id) {
-    std::string name, res_class;
-    get_top_window(display, id);
-    get_named_window(display, id);
-    get_window_class(display, id, name, res_class);
-    get_window_name(display, id, name);
-    getWindowPid(display, id);
-    setActiveWindow(display, id);
-    setActiveWindow(id);
-    HideWindow(id);
-}
-
-void query_all(std::istream& words) {
-    Display* const display = open_display();
-    int count = 0;
-    for (unsigned long id = 0; words >> id; ++count) query(display, id);
-    XCloseDisplay(display);
-    answer("asked about " + std::to_string(count));
-}
-
-// Asks about whatever is active, again and again, and tells how often there was an answer.
-void query_active(std::istream& words) {
-    int times = 0, answered = 0, pid = 0;
-    words >> times;
-    for (int i = 0; i < times; ++i) {
-        unsigned long id = 0;
-        std::string title, name, res_class;
-        answered += getActiveWindowInfo(id, title, name, res_class, pid);
-    }
-    answer(std::to_string(answered));
-}
-
 void translate(std::istream& words) {
     std::string key;
     words >> key;
@@ -140,8 +108,8 @@ void obey(const std::string& line) {
     if (command == "screen") return answer(std::to_string(zo_ui_screen_width()));
     if (command == "extend") return (void)zo_window_manager_extend(manager);
     if (command == "retract") return (void)zo_window_manager_retract(manager);
-    if (command == "query") return query_all(words);
-    if (command == "active") return query_active(words);
+    if (command == "query") return answer(query_dead(words));
+    if (command == "active") return answer(query_active(words));
     if (command == "theme") return use_theme(words);
     if (command == "translate") return translate(words);
     if (command == "quit") gtk_main_quit();

@@ -1,6 +1,7 @@
 # The application that script/faults uses, and each of its faults as a test, on the desktop that it names in a line
 # "# session: OPTIONS".
-add_executable(fault_application faults/application.cpp)
+add_executable(fault_application faults/application.cpp faults/queries.cpp)
+target_include_directories(fault_application PRIVATE ${CMAKE_CURRENT_SOURCE_DIR})
 target_link_libraries(fault_application PRIVATE zo_ui PkgConfig::GTK3 PkgConfig::X11)
 file(GLOB faults CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/faults/*.py)
 list(FILTER faults EXCLUDE REGEX "/fault\\.py$")
