@@ -89,6 +89,19 @@ void tell_panel() {
     answer(std::to_string(found));
 }
 
+// The monitors that GDK knows, each as "WIDTHxHEIGHT+X+Y".
+void tell_monitors() {
+    GdkDisplay* const display = gdk_display_get_default();
+    std::ostringstream text;
+    for (int number = 0; number < gdk_display_get_n_monitors(display); ++number) {
+        GdkRectangle place{};
+        gdk_monitor_get_geometry(gdk_display_get_monitor(display, number), &place);
+        text << (number > 0 ? " " : "") << place.width << "x" << place.height << "+" << place.x << "+"
+             << place.y;
+    }
+    answer(text.str());
+}
+
 void translate(std::istream& words) {
     std::string key;
     words >> key;
@@ -106,6 +119,7 @@ void obey(const std::string& line) {
     }
     if (command == "panel") return tell_panel();
     if (command == "screen") return answer(std::to_string(zo_ui_screen_width()));
+    if (command == "monitors") return tell_monitors();
     if (command == "extend") return (void)zo_window_manager_extend(manager);
     if (command == "retract") return (void)zo_window_manager_retract(manager);
     if (command == "query") return answer(query_dead(words));

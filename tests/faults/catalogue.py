@@ -22,7 +22,7 @@ with tempfile.TemporaryDirectory() as place:
     def translated():
         application = Application({"LANGUAGE": "de", "LC_ALL": "C.UTF-8", "LD_LIBRARY_PATH": place + "/lib"})
         text = application.ask("translate tooltip_close_window")
-        application.expect_alive(1)
+        application.expect_alive()
         application.end()
         return text
 

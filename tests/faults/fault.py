@@ -21,7 +21,7 @@ class Application:
     def __init__(self, environment=None, directory=None, arguments=()):
         # The faults end processes and break what they share: leaks at such an end say nothing.
         env = dict(os.environ, **(environment or {}))
-        env["ASAN_OPTIONS"] = "detect_leaks=0"
+        env["ASAN_OPTIONS"] = ":".join(filter(None, (env.get("ASAN_OPTIONS"), "detect_leaks=0")))
         for name, value in list(env.items()):
             if value is None:
                 del env[name]
@@ -29,6 +29,7 @@ class Application:
                                         stderr=subprocess.PIPE, text=True, env=env, cwd=directory)
         self.lines = queue.Queue()
         self.complaints = []
+        self.uses = 0
         threading.Thread(target=self._read, daemon=True).start()
         threading.Thread(target=self._read_complaints, daemon=True).start()
         self.expect("ready")
@@ -61,11 +62,12 @@ class Application:
         self.process.kill()
         self.process.wait()
 
-    def expect_alive(self, closed):
+    def expect_alive(self):
         """Uses everything once and looks at the state afterwards."""
         self.tell("use")
+        self.uses += 1
         got = self.ask("state")
-        assert got == f"window on screen, notifications closed: {closed}", (got, self.complaints)
+        assert got == f"window on screen, notifications closed: {self.uses}", (got, self.complaints)
 
     def end(self):
         self.tell("quit")

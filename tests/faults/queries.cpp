@@ -55,8 +55,8 @@ struct active_answer {
 // Nothing but the one window of the other process, or this one's, or the id of none.
 bool is_torn(const active_answer& seen, bool answered, int other) {
     if (!answered) return seen.id != 0;
-    const bool is_other = seen.title == "short-lived" && seen.name == "short" && seen.res_class == "Short" &&
-                          seen.pid == other;
+    const bool is_other =
+        seen.title == "short-lived" && seen.name == "short" && seen.res_class == "Short" && seen.pid == other;
     const bool is_own = seen.title == "Fault" && seen.pid == getpid() && seen.name == "fault_application" &&
                         seen.res_class == "Fault_application";
     return seen.id == 0 || !(is_other || is_own);
@@ -84,8 +84,7 @@ std::string query_active(std::istream& words) {
     words >> times >> other;
     for (int i = 0; i < times; ++i) {
         active_answer seen;
-        const bool is_answer =
-            getActiveWindowInfo(seen.id, seen.title, seen.name, seen.res_class, seen.pid);
+        const bool is_answer = getActiveWindowInfo(seen.id, seen.title, seen.name, seen.res_class, seen.pid);
         answered += is_answer;
         torn += is_torn(seen, is_answer, other);
     }

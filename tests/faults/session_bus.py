@@ -36,7 +36,7 @@ address = "unix:path=" + path
 bus = start_bus(address)
 try:
     application = Application({"DBUS_SESSION_BUS_ADDRESS": address})
-    application.expect_alive(1)
+    application.expect_alive()
     assert names() > 0
     kill(bus)
     code = application.process.wait(timeout=ANSWER_SECONDS)
@@ -46,13 +46,13 @@ try:
 
     bus = start_bus(address)
     survivor = Application({"DBUS_SESSION_BUS_ADDRESS": address}, arguments=["outlive-bus"])
-    survivor.expect_alive(1)
+    survivor.expect_alive()
     kill(bus)
-    survivor.expect_alive(2)
+    survivor.expect_alive()
     bus = start_bus(address)
-    survivor.expect_alive(3)
+    survivor.expect_alive()
     newcomer = Application({"DBUS_SESSION_BUS_ADDRESS": address})
-    newcomer.expect_alive(1)
+    newcomer.expect_alive()
     assert names() > 0
     newcomer.end()
     survivor.end()
@@ -62,6 +62,6 @@ finally:
     bus.kill()
 
 application = Application({"DBUS_SESSION_BUS_ADDRESS": "unix:path=/nonexistent/bus"})
-application.expect_alive(1)
+application.expect_alive()
 application.end()
 row("session bus absent", "Everything but the tray icon works.")

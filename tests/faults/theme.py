@@ -19,7 +19,7 @@ with tempfile.TemporaryDirectory() as folder:
     (theme / "style.css").rmdir()
     got = application.ask(f"theme {folder}/ cut")
     assert got.startswith("refused"), got
-    application.expect_alive(1)
+    application.expect_alive()
     row("theme directory without a readable sheet", "`zo_theme_use_theme` tells through its error; no theme is in use.")
 
     application.end()

@@ -20,11 +20,11 @@ def start_host():
 
 application = Application()
 assert not items(), items()
-for closed in (1, 2, 3):
+for _ in range(3):
     host = start_host()
     try:
         until(items, lambda text: "NotificationItem/fault" in text, "the icon is not in the tray")
-        application.expect_alive(closed)
+        application.expect_alive()
     finally:
         host.kill()
         host.wait()

@@ -12,7 +12,7 @@ server = subprocess.Popen(["Xvfb", "-noreset", "-displayfd", str(writing), "-nol
 try:
     number = os.read(reading, 16).decode().strip()
     application = Application({"DISPLAY": ":" + number})
-    application.expect_alive(1)
+    application.expect_alive()
     server.send_signal(signal.SIGKILL)
     server.wait()
     code = application.process.wait(timeout=ANSWER_SECONDS)
