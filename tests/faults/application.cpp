@@ -3,10 +3,12 @@
 // faults happen around it. Each command is answered by a line on its standard output.
 #include "faults/queries.hpp"
 
+#include <zo_ui/platform/linux.hpp>
 #include <zo_ui/zo_ui.hpp>
 
 #include <gdk/gdkx.h>
 
+#include <cstdlib>
 #include <iostream>
 #include <map>
 #include <sstream>
@@ -54,6 +56,17 @@ void use() {
     zo_window_show(window);
     zo_window_manager_extend(manager);
     zo_window_manager_retract(manager);
+}
+
+// Until the process ends.
+void be_busy() {
+    answer("busy");
+    for (;;) {
+        use();
+        getActiveWindow();
+        zo_system_service_exec([] { answer("busy"); }, "application", 1);
+        while (gtk_events_pending()) gtk_main_iteration();
+    }
 }
 
 void tell_state() {
@@ -117,6 +130,7 @@ void obey(const std::string& line) {
         // After what was posted before.
         return zo_system_service_exec(tell_state, "application", 1);
     }
+    if (command == "busy") return be_busy();
     if (command == "panel") return tell_panel();
     if (command == "screen") return answer(std::to_string(zo_ui_screen_width()));
     if (command == "monitors") return tell_monitors();
@@ -144,6 +158,7 @@ gboolean on_input(GIOChannel* channel, GIOCondition condition, gpointer) {
 }  // namespace
 
 int main(int argc, char** argv) {
+    std::atexit([] { answer("exit handler"); });
     gtk_init(&argc, &argv);
     zo_ui_init();
     const std::string kind = argc > 1 ? argv[1] : "";

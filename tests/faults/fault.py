@@ -1,6 +1,7 @@
 # SPDX-License-Identifier: MIT
 """What every fault needs: the application, told what to do line by line, and a row for the table."""
 import os
+import re
 import subprocess
 import sys
 import threading
@@ -30,7 +31,8 @@ class Application:
         self.lines = queue.Queue()
         self.complaints = []
         self.uses = 0
-        threading.Thread(target=self._read, daemon=True).start()
+        self.reader = threading.Thread(target=self._read, daemon=True)
+        self.reader.start()
         threading.Thread(target=self._read_complaints, daemon=True).start()
         self.expect("ready")
 
@@ -58,9 +60,10 @@ class Application:
         got = self.answer()
         assert got == text, f"{got!r} instead of {text!r}; it said {self.complaints}"
 
-    def kill(self):
-        self.process.kill()
-        self.process.wait()
+    def rest(self):
+        """The lines left of a process that has ended."""
+        self.reader.join(ANSWER_SECONDS)
+        return [self.lines.get_nowait() for _ in range(self.lines.qsize())]
 
     def expect_alive(self):
         """Uses everything once and looks at the state afterwards."""
@@ -74,6 +77,35 @@ class Application:
         self.expect("ended")
         code = self.process.wait(timeout=ANSWER_SECONDS)
         assert code == 0, (code, self.complaints)
+        assert self.rest() == ["exit handler"]
+
+
+HOST = "/usr/libexec/ayatana-indicator-application/ayatana-indicator-application-service"
+
+
+class Tray:
+    """The tray of a session bus: who is its host, and what is in it."""
+
+    def __init__(self, address=None):
+        self.environment = dict(os.environ, **({"DBUS_SESSION_BUS_ADDRESS": address} if address else {}))
+
+    def start_host(self):
+        return subprocess.Popen([HOST], stderr=subprocess.DEVNULL, env=self.environment)
+
+    def call(self, name, path, method, *words):
+        return subprocess.run(["gdbus", "call", "--session", "-d", name, "-o", path, "-m", method, *words],
+                              capture_output=True, text=True, env=self.environment).stdout
+
+    def items(self):
+        """Each with its connection before; nothing at all without a host."""
+        return self.call("org.kde.StatusNotifierWatcher", "/StatusNotifierWatcher", "org.freedesktop.DBus.Properties.Get",
+                         "org.kde.StatusNotifierWatcher", "RegisteredStatusNotifierItems")
+
+    def owners(self):
+        """The processes that have an item of the application's in it."""
+        connections = re.findall(r"'(:[\d.]+)/[^']*NotificationItem/fault'", self.items())
+        return [int(re.search(r"uint32 (\d+)", self.call("org.freedesktop.DBus", "/",
+                "org.freedesktop.DBus.GetConnectionUnixProcessID", name))[1]) for name in connections]
 
 
 def without_warnings(application, *allowed):

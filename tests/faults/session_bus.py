@@ -4,62 +4,70 @@ import os
 import signal
 import subprocess
 
-from fault import ANSWER_SECONDS, Application, row
+from fault import ANSWER_SECONDS, Application, Tray, row, until
 
 
-def start_bus(address):
+def start_bus():
+    """A bus, and the tray's host on it."""
     reading, writing = os.pipe()
-    bus = subprocess.Popen(["dbus-daemon", "--session", "--nofork", "--address=" + address, "--print-address=" + str(writing)],
+    bus = subprocess.Popen(["dbus-daemon", "--session", "--nofork", "--address=" + address,
+                            "--print-address=" + str(writing)],
                            pass_fds=[writing], stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
     os.close(writing)
     os.read(reading, 256)
     os.close(reading)
-    return bus
+    host = tray.start_host()
+    until(tray.items, bool, "no host")
+    return bus, host
 
 
-def kill(bus):
-    bus.kill()
-    bus.wait()
+def kill(*processes):
+    for process in processes:
+        process.kill()
+        process.wait()
     if os.path.exists(path):
         os.unlink(path)
 
 
-def names():
-    """The connections that the bus has, without this question's own."""
-    reply = subprocess.run(["dbus-send", "--bus=" + address, "--print-reply", "--dest=org.freedesktop.DBus", "/",
-                            "org.freedesktop.DBus.ListNames"], capture_output=True, text=True, check=True).stdout
-    return reply.count('string ":') - 1
+def has_icons(*applications):
+    wanted = [application.process.pid for application in applications]
+    until(tray.owners, wanted.__eq__, f"icons, not those of {wanted}")
 
 
 path = os.path.join(os.environ["ZO_SESSION_DIR"], "fault-bus")
 address = "unix:path=" + path
-bus = start_bus(address)
+tray = Tray(address)
+running = start_bus()
 try:
     application = Application({"DBUS_SESSION_BUS_ADDRESS": address})
     application.expect_alive()
-    assert names() > 0
-    kill(bus)
+    has_icons(application)
+    kill(*running)
     code = application.process.wait(timeout=ANSWER_SECONDS)
     assert code == -signal.SIGTERM, (code, application.complaints)
     row("session bus killed", "GIO ends a program with a tray icon by SIGTERM, as any that is on the session bus and did "
         "not ask its connection for something else (`g_dbus_connection_set_exit_on_close`).")
 
-    bus = start_bus(address)
+    running = start_bus()
     survivor = Application({"DBUS_SESSION_BUS_ADDRESS": address}, arguments=["outlive-bus"])
     survivor.expect_alive()
-    kill(bus)
+    has_icons(survivor)
+    kill(*running)
     survivor.expect_alive()
-    bus = start_bus(address)
+    running = start_bus()
     survivor.expect_alive()
     newcomer = Application({"DBUS_SESSION_BUS_ADDRESS": address})
     newcomer.expect_alive()
-    assert names() > 0
+    has_icons(newcomer)
+    survivor.expect_alive()
+    has_icons(newcomer)
     newcomer.end()
     survivor.end()
     row("session bus killed and started again", "A program that asked its connection not to end it goes on with its windows "
-        "and notifications; its tray icon is gone, since GIO joins no bus twice. A program started afterwards has all.")
+        "and notifications; its tray icon is gone, since GIO joins no bus twice. That of a program started afterwards is "
+        "in the tray.")
 finally:
-    bus.kill()
+    kill(*running)
 
 application = Application({"DBUS_SESSION_BUS_ADDRESS": "unix:path=/nonexistent/bus"})
 application.expect_alive()
