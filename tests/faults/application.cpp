@@ -88,6 +88,22 @@ void use_theme(std::istream& words) {
     g_clear_error(&error);
 }
 
+// Of the window's text, as the style sheets have it.
+void tell_colour() {
+    GtkWidget* toplevel = nullptr;
+    GList* const all = gtk_window_list_toplevels();
+    for (GList* at = all; at; at = at->next)
+        if (std::string("fault") == gtk_widget_get_name(GTK_WIDGET(at->data)))
+            toplevel = GTK_WIDGET(at->data);
+    g_list_free(all);
+    GtkStyleContext* const style = gtk_widget_get_style_context(toplevel);
+    GdkRGBA colour{};
+    gtk_style_context_get_color(style, gtk_style_context_get_state(style), &colour);
+    char* const text = gdk_rgba_to_string(&colour);
+    answer(text);
+    g_free(text);
+}
+
 // The X window of the panel: the only popup that is as wide as the screen.
 void tell_panel() {
     unsigned long found = 0;
@@ -139,6 +155,7 @@ void obey(const std::string& line) {
     if (command == "query") return answer(query_dead(words));
     if (command == "active") return answer(query_active(words));
     if (command == "theme") return use_theme(words);
+    if (command == "colour") return zo_system_service_exec(tell_colour, "application", 1);
     if (command == "translate") return translate(words);
     if (command == "quit") gtk_main_quit();
 }

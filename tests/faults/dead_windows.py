@@ -96,8 +96,8 @@ assert 0 < answered < QUESTIONS, f"{answered} of {QUESTIONS}: they never met"
 application.expect_alive()
 application.end()
 without_warnings(application)
-row(f"{len(ids):,} ids of dead windows given to the desktop queries", "What is read of them is not there: each reader gives "
-    "its \"no\" and leaves the texts alone. To activate or to hide one is asked for and has no effect; the call succeeds as "
+row(f"{len(ids):,} ids of dead windows given to the desktop queries", "What is read of them is not there: each reader "
+    "gives its \"no\" and leaves the texts alone. To activate or to hide one is asked for and has no effect; the call succeeds as "
     "for any window. No error reaches the process.")
 row(f"active window ends while it is asked about, {QUESTIONS:,} questions", "An answer of one whole window or none, with the "
     "id 0; no error reaches the process.")
