@@ -63,6 +63,7 @@ class Application:
     def rest(self):
         """The lines left of a process that has ended."""
         self.reader.join(ANSWER_SECONDS)
+        assert not self.reader.is_alive(), "its output is still open"
         return [self.lines.get_nowait() for _ in range(self.lines.qsize())]
 
     def expect_alive(self):

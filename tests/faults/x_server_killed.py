@@ -76,10 +76,14 @@ def photograph(folder):
         until(lambda: subprocess.run([*PRESS, "Open, show and activate"], capture_output=True).returncode, (0).__eq__,
               "no window")
         until(lambda: SAVE in subprocess.run([*PRESS[:-1], "names"], capture_output=True, text=True).stdout, bool, SAVE)
-        with subprocess.Popen([*PRESS, SAVE], stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL):
+        press = subprocess.Popen([*PRESS, SAVE], stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+        try:
             until(photo.exists, bool, "no photo")
             server.kill()
             assert demo.wait(ANSWER_SECONDS) == ENDED, demo.returncode
+        finally:
+            press.kill()  # it may wait long for an answer of what has ended
+            press.wait()
     return photo.read_bytes()
 
 
