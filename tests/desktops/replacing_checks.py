@@ -21,11 +21,19 @@ def manager_pid():
     """That of the session, a sibling of this program, or the one that was started here last."""
     if started:
         return started[-1].pid
+    return becomes(session_manager, bool, wm)
+
+
+def session_manager():
+    """0 while it is not in the kernel's list, which misses some while others end."""
     session = os.getppid()
     for child in Path(f"/proc/{session}/task/{session}/children").read_text().split():
-        if Path(f"/proc/{child}/comm").read_text().strip() == wm:
-            return int(child)
-    raise LookupError(wm)
+        try:
+            if Path(f"/proc/{child}/comm").read_text().strip() == wm:
+                return int(child)
+        except OSError:  # it has ended since
+            continue
+    return 0
 
 
 def has_ended(pid):
