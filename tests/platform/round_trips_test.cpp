@@ -41,6 +41,13 @@ int steps_to_top(Display* display, Window window) {
     return parent == root || parent == 0 ? 1 : 1 + steps_to_top(display, parent);
 }
 
+Window focused_window(Display* display) {
+    Window window = None;
+    int revert = 0;
+    XGetInputFocus(display, &window, &revert);
+    return window;
+}
+
 class RoundTrips : public testing::Test {
   protected:
     void activate(Window window) {
@@ -74,8 +81,14 @@ TEST_F(RoundTrips, OneMoreForAFocusedWindowInTheClient) {
     const test::foreign_window window({"title=name", "class=a,B", "pid=4711"});
     activate(window.id());
     const int before = of_info().round_trips;
-    owner.focus(owner.make_viewable(window.id()));
-    const int info = of_info().round_trips;
+    const Window inner = owner.make_viewable(window.id());
+    int info = 0;
+    // A window manager may give the focus to the client itself once more, after it has answered.
+    ASSERT_TRUE(test::turn_until([&] {
+        owner.focus(inner);
+        info = of_info().round_trips;
+        return focused_window(owner) == inner;
+    }));
     EXPECT_EQ(info, before + 1);
     EXPECT_LE(info, 15);
 }
