@@ -39,7 +39,7 @@ def session_manager():
 def has_ended(pid):
     try:
         return Path(f"/proc/{pid}/stat").read_text().rsplit(")", 1)[1].split()[0] == "Z"
-    except FileNotFoundError:
+    except (FileNotFoundError, ProcessLookupError):  # the latter when it goes while its file is open
         return True
 
 
