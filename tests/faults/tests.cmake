@@ -14,3 +14,5 @@ foreach(fault ${faults})
     COMMAND ${session} ${options} -- ${ENV_PROGRAM} ${test_environment} /usr/bin/python3 ${fault} $<TARGET_FILE:fault_application>)
   set_tests_properties(fault.${name} PROPERTIES TIMEOUT 120)
 endforeach()
+# Its servers start beside the sessions' own, and X servers that start or end at that moment take each other's sockets.
+set_tests_properties(fault.x_server_killed PROPERTIES RUN_SERIAL TRUE)
