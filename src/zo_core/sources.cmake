@@ -21,6 +21,7 @@ zo_library(zo_core
     zo_core/zo_object.hpp
     zo_core/zo_property.hpp
     zo_core/zo_service.hpp
+    zo_core/zo_service_task.hpp
     zo_core/zo_unique_id.hpp
   PUBLIC Boost::headers
   PRIVATE PkgConfig::GLIB)

@@ -9,7 +9,7 @@ namespace {
 
 // `file` is a literal or a string: neither makes another on the way of a task that is accepted.
 template <typename File>
-bool accept(const zo::task& task, const char* function, const File& file, int line) {
+bool accept(const zo::service_task& task, const char* function, const File& file, int line) {
     if (task) return true;
     zo_assertion_faild(false, "task != nullptr", function, file, line);
     return false;
@@ -17,13 +17,13 @@ bool accept(const zo::task& task, const char* function, const File& file, int li
 
 // With the trace off, a task is posted as it came.
 template <typename File>
-void trace(zo::task& task, const char* what, const File& file, int line) {
+void trace(zo::service_task& task, const char* what, const File& file, int line) {
     if (zo::tracing()) task = zo::traced(std::move(task), what, file, line);
 }
 
 template <typename File>
-void exec(zo::task& task, const char* function, const File& file, int line) {
-    if (!accept(task, function, file, line)) return;
+void exec(zo::service_task task, const File& file, int line) {
+    if (!accept(task, "zo_system_service_exec", file, line)) return;
     trace(task, "task", file, line);
     zo::task_queue::instance().post(task);
 }
@@ -31,15 +31,18 @@ void exec(zo::task& task, const char* function, const File& file, int line) {
 }  // namespace
 
 void zo_system_service_exec(std::function<void()> task, std::string file, int line) {
-    exec(task, __func__, file, line);
+    exec(std::move(task), file, line);
 }
 
 void zo_system_service_exec(std::function<void()> task, const char* file, int line) {
-    exec(task, __func__, file, line);
+    exec(std::move(task), file, line);
 }
 
-unsigned long zo_system_service_timeout(std::function<void()> task, unsigned long milliseconds,
+void zo::post_task(service_task task, const char* file, int line) { exec(std::move(task), file, line); }
+
+unsigned long zo_system_service_timeout(std::function<void()> function, unsigned long milliseconds,
                                         std::string file, int line) {
+    zo::service_task task(std::move(function));
     if (!accept(task, __func__, file, line)) return 0;
     trace(task, "timeout", file, line);
     return zo::timer_list::instance().add(task, milliseconds);

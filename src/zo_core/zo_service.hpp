@@ -11,19 +11,33 @@
 #pragma once
 
 #include <zo_core/zo_export.hpp>
+#include <zo_core/zo_service_task.hpp>
 
+#include <concepts>
 #include <functional>
 #include <string>
+#include <type_traits>
+#include <utility>
+
+namespace zo {
+ZO_EXPORT void post_task(service_task task, const char* file, int line);
+}
 
 /// @{
 /// Queues `task` to run once on the loop. Tasks run in the order of posting, those of all threads together; a
 /// task may post tasks, and a nested main loop inside one goes on running the others. The callable is
-/// destroyed on the loop. `file` and `line` name the poster; the overload for literals builds no string. An
-/// empty task is reported as a failed assertion and not queued.
+/// destroyed on the loop. `file` and `line` name the poster; the overloads for literals build no string, and
+/// the one for any callable keeps a small one without asking for memory. An empty task is reported as a failed
+/// assertion and not queued.
 /// @thread any
 /// @state after the end of the service the task is dropped unseen
 ZO_EXPORT void zo_system_service_exec(std::function<void()> task, std::string file, int line);
 ZO_EXPORT void zo_system_service_exec(std::function<void()> task, const char* file, int line);
+template <typename Callable>
+    requires std::invocable<std::decay_t<Callable>&>
+void zo_system_service_exec(Callable&& task, const char* file, int line) {
+    zo::post_task(std::forward<Callable>(task), file, line);
+}
 /// @}
 
 /// Runs `task` once on the loop, at least `milliseconds` from now by the monotonic clock. Returns an id for

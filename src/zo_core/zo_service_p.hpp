@@ -2,10 +2,12 @@
 // The two halves of the service.
 #pragma once
 
+#include <zo_core/zo_export.hpp>
+#include <zo_core/zo_service_task.hpp>
+
 #include <glib.h>
 #include <atomic>
 #include <cstdint>
-#include <functional>
 #include <map>
 #include <mutex>
 #include <set>
@@ -14,7 +16,9 @@
 
 namespace zo {
 
-using task = std::function<void()>;
+// Runs `last` when the tasks that wait now are through, once for all of what they do; at once outside of a task.
+// On the loop.
+ZO_EXPORT void after_batch(service_task last);
 
 // First in, first out, from any thread to the default main context.
 //
@@ -27,10 +31,12 @@ class task_queue {
     static task_queue& instance();
 
     // False when the service has ended; `next` is then untouched.
-    bool post(task& next);
+    bool post(service_task& next);
 
     // Runs what is queued now, and what it posts, until nothing is left, then refuses every post.
     void end();
+
+    void after_batch(service_task& last);
 
     // Lets everything else on the loop go before the next task, for a little. On the loop.
     void let_others_first();
@@ -44,6 +50,7 @@ class task_queue {
     void take_posted();
     void run_one();
     void run_batch();
+    void run_last();
     void drain();
     void note_waiting();
     bool is(phase wanted);
@@ -57,14 +64,16 @@ class task_queue {
     void attach(GSourceFuncs& functions, int priority, const char* name);
 
     std::mutex mutex_;
-    std::vector<task> posted_;   // guarded by mutex_
+    std::vector<service_task> posted_;   // guarded by mutex_
     phase phase_ = phase::open;  // guarded by mutex_
     std::atomic<bool> waiting_{false};
     std::atomic<bool> done_{false};
 
     // Touched only by the thread that iterates the main context.
-    std::vector<task> ready_;
+    std::vector<service_task> ready_;
     std::size_t next_ready_ = 0;
+    std::vector<service_task> last_;  // of the batches that run
+    int batches_ = 0;         // that run, each in a loop that is nested in the one before
     std::uint64_t taken_ = 0;
     std::uint64_t begun_ = 0;
     gint64 aside_until_ = 0;  // monotonic time; until then the eager source stays aside
@@ -76,14 +85,14 @@ class timer_list {
   public:
     static timer_list& instance();
 
-    unsigned long add(task& next, unsigned long milliseconds);
+    unsigned long add(service_task& next, unsigned long milliseconds);
     void clear(unsigned long id);
     void drop_all();
 
   private:
     struct timer {
         gint64 deadline;
-        task run;
+        service_task run;
     };
 
     timer_list();

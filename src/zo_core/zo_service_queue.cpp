@@ -25,6 +25,8 @@ constexpr std::size_t kept_capacity = 1024;
 
 namespace zo {
 
+void after_batch(service_task last) { task_queue::instance().after_batch(last); }
+
 task_queue& task_queue::instance() {
     static auto& queue = *new task_queue;  // never destroyed: objects in static storage may still post
     return queue;
@@ -47,7 +49,7 @@ void task_queue::attach(GSourceFuncs& functions, int priority, const char* name)
     g_source_unref(source);
 }
 
-bool task_queue::post(task& next) {
+bool task_queue::post(service_task& next) {
     bool asleep = false;
     {
         std::lock_guard lock(mutex_);
@@ -68,40 +70,60 @@ void task_queue::take_posted() {
         ready_.swap(posted_);
         return;
     }
-    for (task& next : posted_) ready_.push_back(std::move(next));
+    for (service_task& next : posted_) ready_.push_back(std::move(next));
     posted_.clear();
 }
 
 // Everything here is in order again before the task runs: it may run a nested loop, or throw.
 void task_queue::run_one() {
-    const task next = std::move(ready_[next_ready_]);
+    service_task next = std::move(ready_[next_ready_]);
     ++next_ready_;
     ++begun_;
     if (next_ready_ == ready_.size()) {
         next_ready_ = 0;
         ready_.clear();
-        if (ready_.capacity() > kept_capacity) std::vector<task>().swap(ready_);
+        if (ready_.capacity() > kept_capacity) std::vector<service_task>().swap(ready_);
     }
     next();
 }
 
 void task_queue::note_waiting() {
     std::lock_guard lock(mutex_);
-    waiting_ = !posted_.empty() || !ready_.empty();
+    waiting_ = !posted_.empty() || !ready_.empty() || !last_.empty();
 }
 
 void task_queue::run_batch() {
     struct leave {
         task_queue& queue;
         ~leave() {
+            --queue.batches_;
             queue.note_waiting();
             queue.aside_until_ = queue.waiting_ ? g_get_monotonic_time() + patience : 0;
         }
     } const at_the_end{*this};
-    if (!draining_ && is(phase::ending)) return drain();
-    take_posted();
-    const std::uint64_t last = taken_;
-    while (begun_ < last && !ready_.empty()) run_one();
+    ++batches_;
+    if (!draining_ && is(phase::ending)) {
+        drain();
+    } else {
+        take_posted();
+        const std::uint64_t last = taken_;
+        while (begun_ < last && !ready_.empty()) run_one();
+    }
+    run_last();
+}
+
+void task_queue::after_batch(service_task& last) {
+    if (batches_ == 0) return last();
+    last_.push_back(std::move(last));
+    waiting_ = true;  // a loop that is nested in the batch does not wait for its end
+}
+
+void task_queue::run_last() {
+    while (!last_.empty()) {
+        service_task next = std::move(last_.front());
+        last_.erase(last_.begin());
+        next();
+    }
 }
 
 void task_queue::let_others_first() {
@@ -121,7 +143,7 @@ bool task_queue::try_close() {
 }
 
 void task_queue::discard() {
-    std::vector<task> rest;
+    std::vector<service_task> rest;
     std::lock_guard lock(mutex_);
     phase_ = phase::closed;
     rest.swap(posted_);

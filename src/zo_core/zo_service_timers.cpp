@@ -14,9 +14,9 @@ gint64 deadline_after(unsigned long milliseconds) {
 }
 
 // Lets a callable go on the loop, whose objects it may hold.
-void dispose(zo::task& unwanted) {
+void dispose(zo::service_task& unwanted) {
     if (!unwanted || g_main_context_is_owner(nullptr)) return;
-    zo::task carrier = [held = std::move(unwanted)] {};
+    zo::service_task carrier = [held = std::move(unwanted)] {};
     zo::task_queue::instance().post(carrier);
 }
 
@@ -43,7 +43,7 @@ void timer_list::arm() {
     g_source_set_ready_time(source_, schedule_.empty() ? -1 : schedule_.begin()->first);
 }
 
-unsigned long timer_list::add(task& next, unsigned long milliseconds) {
+unsigned long timer_list::add(service_task& next, unsigned long milliseconds) {
     std::lock_guard lock(mutex_);
     if (ended_) return 0;
     const unsigned long id = ++last_id_;
@@ -55,12 +55,12 @@ unsigned long timer_list::add(task& next, unsigned long milliseconds) {
 }
 
 void timer_list::clear(unsigned long id) {
-    task unwanted;
+    service_task unwanted;
     {
         std::lock_guard lock(mutex_);
         const auto place = timers_.find(id);
         if (place == timers_.end()) return;
-        unwanted.swap(place->second.run);
+        unwanted = std::move(place->second.run);
         schedule_.erase({place->second.deadline, id});
         timers_.erase(place);
         arm();
@@ -81,12 +81,12 @@ void timer_list::drop_all() {
 }
 
 void timer_list::run(unsigned long id) {
-    task next;
+    service_task next;
     {
         std::lock_guard lock(mutex_);
         const auto place = timers_.find(id);
         if (place == timers_.end()) return;
-        next.swap(place->second.run);
+        next = std::move(place->second.run);
         timers_.erase(place);
     }
     next();
@@ -97,7 +97,7 @@ void timer_list::post_due() {
     const gint64 now = g_get_monotonic_time();
     task_queue::instance().let_others_first();
     while (!schedule_.empty() && schedule_.begin()->first <= now) {
-        task next = [this, id = schedule_.begin()->second] { run(id); };
+        service_task next = [this, id = schedule_.begin()->second] { run(id); };
         task_queue::instance().post(next);
         schedule_.erase(schedule_.begin());
     }

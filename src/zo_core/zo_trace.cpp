@@ -34,9 +34,8 @@ bool zo::tracing() {
     return on;
 }
 
-std::function<void()> zo::traced(std::function<void()> task, const char* what, const std::string& file,
-                                 int line) {
-    return [task = std::move(task), what, file, line, posted = g_get_monotonic_time()] {
+zo::service_task zo::traced(service_task task, const char* what, const std::string& file, int line) {
+    return [task = std::move(task), what, file, line, posted = g_get_monotonic_time()]() mutable {
         const run_trace trace(what, file, line, posted);
         task();
     };
