@@ -6,6 +6,7 @@
 
 #include <zo_core/zo_export.hpp>
 #include <zo_core/zo_property.hpp>
+#include <zo_core/zo_property_mutex.hpp>
 
 #include <boost/enable_shared_from_this.hpp>
 #include <boost/shared_ptr.hpp>
@@ -13,6 +14,10 @@
 #include <string>
 
 class _zo_object;
+
+namespace zo {
+class property_guard;
+}
 
 /// A shared handle of any object. The application, the tasks in flight and the containers that hold an object
 /// share it; the object dies with its last handle.
@@ -71,8 +76,9 @@ class ZO_EXPORT _zo_object : public zo_object_base {
   private:
     friend void zo_object_ref(zo_object_ptr);
     friend void zo_object_unref_real(zo_object_ptr);
+    friend class zo::property_guard;
 
-    std::recursive_mutex property_mutex_;
+    zo::property_mutex property_mutex_;
     std::mutex refs_mutex_;
     int refs_ = 0;        // guarded by refs_mutex_
     zo_object_ptr held_;  // guarded by refs_mutex_; the object's own handle while refs_ is above 0

@@ -3,6 +3,8 @@
 
 #include <zo_core/zo_property_access_p.hpp>
 
+#include <atomic>
+
 namespace {
 
 template <typename Name>
@@ -22,6 +24,14 @@ bool zo_property_get(::property_list& list, std::string name, boost::any& out) {
 
 bool zo_property_get(::property_list& list, const char* name, boost::any& out) {
     return get(list, name, out);
+}
+
+// Numbers are never given back: names are literals of a library.
+zo::flag_name::flag_name(const char* text) : text_(text) {
+    constexpr int most = 0x7fff;
+    static std::atomic<int> last{0};
+    const int number = ++last;
+    number_ = number <= most ? static_cast<std::uint16_t>(number) : std::uint16_t{0};
 }
 
 std::string zo::access_text(const char* operation, const char* type, std::string_view name,

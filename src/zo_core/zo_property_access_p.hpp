@@ -6,6 +6,7 @@
 #include <zo_core/zo_diagnostics.hpp>
 #include <zo_core/zo_object.hpp>
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -36,6 +37,18 @@ struct spelling {
     bool literal_name = true;
 };
 
+// The name of a flag that objects remember. One for each name; it is best kept in static storage.
+class flag_name {
+  public:
+    ZO_EXPORT explicit flag_name(const char* text);
+    const char* text() const { return text_; }
+    std::uint16_t number() const { return number_; }
+
+  private:
+    const char* text_;
+    std::uint16_t number_;  // 0: not remembered
+};
+
 // "operation<type>(list,"name",value)", as a report quotes it.
 ZO_EXPORT std::string access_text(const char* operation, const char* type, std::string_view name,
                                   const spelling& how);
@@ -52,6 +65,16 @@ class property_guard {
     ~property_guard() { object_.property_unlock(); }
     property_guard(const property_guard&) = delete;
     property_guard& operator=(const property_guard&) = delete;
+
+    // Reads one flag, without the lock where the object remembers it.
+    static bool flag(_zo_object& object, const flag_name& name, const char* file, int line,
+                     const spelling& how) {
+        bool value = false;
+        if (object.property_mutex_.recall(name.number(), value)) return value;
+        property_guard guard(object, file, line);
+        if (guard.read(name.text(), value, how)) object.property_mutex_.remember(name.number(), value);
+        return value;
+    }
 
     template <typename T>
     void init(const char* name, T value, const char* value_text) {

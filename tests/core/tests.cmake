@@ -8,6 +8,7 @@ zo_test(core_property_list_test FILES core/property_list_test.cpp)
 zo_test(core_property_overloads_test FILES core/property_overloads_test.cpp)
 zo_test(core_property_key_test FILES core/property_key_test.cpp)
 zo_test(core_property_access_test FILES core/property_access_test.cpp)
+zo_test(core_property_flags_test FILES core/property_flags_test.cpp)
 zo_test(core_property_lock_test FILES core/property_lock_test.cpp)
 
 zo_test(core_diagnostics_test FILES core/diagnostics_test.cpp core/child_process.cpp)

@@ -6,12 +6,18 @@
 
 namespace {
 
-template <typename Name>
-bool read_flag(_zo_window& window, const Name& name) {
+constexpr zo::spelling read_value{"&value", "ptr->property_list", false};
+
+bool read_flag(_zo_window& window, const std::string& name) {
     bool value = false;
     zo::property_guard guard(window, zo::window_source::file, zo::window_source::bool_getter);
-    guard.read(name, value, {"&value", "ptr->property_list", false});
+    guard.read(name, value, read_value);
     return value;
+}
+
+bool read_flag(_zo_window& window, const zo::flag_name& name) {
+    return zo::property_guard::flag(window, name, zo::window_source::file, zo::window_source::bool_getter,
+                                    read_value);
 }
 
 template <typename Name>
@@ -35,7 +41,8 @@ bool zo_window_set_bool_property(zo_window_ptr window, std::string name, bool va
 // exported name, property
 #define ZO_WINDOW_FLAG(flag, property)                                             \
     bool zo_window_get_##flag(zo_window_ptr window) {                              \
-        return !zo::refuse_null(window, __func__) && read_flag(*window, property); \
+        static const zo::flag_name name(property);                                 \
+        return !zo::refuse_null(window, __func__) && read_flag(*window, name);     \
     }                                                                              \
     bool zo_window_set_##flag(zo_window_ptr window, bool value) {                  \
         if (zo::refuse_null(window, __func__)) return false;                       \
