@@ -76,8 +76,33 @@ void shorten(GtkWidget* label, int characters) {
         gtk_widget_set_tooltip_text(label, zo::as_tooltip(text).c_str());
 }
 
+// No letter of a plain text is wider than this.
+constexpr double widest_letter = 1.5;  // times the size of the font
+
+double font_size(GtkWidget* label) {
+    const PangoFontDescription* const font =
+        pango_context_get_font_description(gtk_widget_get_pango_context(label));
+    const double size = static_cast<double>(pango_font_description_get_size(font)) / PANGO_SCALE;
+    if (pango_font_description_get_size_is_absolute(font)) return size;
+    return size * gdk_screen_get_resolution(gtk_widget_get_screen(label)) / 72;
+}
+
+// False for what is surely narrow enough: to measure a text takes as long as to show it.
+bool may_be_too_wide(GtkWidget* label, const std::string& content) {
+    if (content != gtk_label_get_text(GTK_LABEL(label))) return true;  // markup may say anything of letters
+    std::size_t word = 0;
+    std::size_t longest = 0;
+    for (const char letter : content) {
+        if (!g_ascii_isprint(letter) && !g_ascii_isspace(letter)) return true;
+        word = g_ascii_isspace(letter) ? 0 : word + 1;
+        longest = std::max(longest, word);
+    }
+    return static_cast<double>(longest) * widest_letter * font_size(label) > popup_width;
+}
+
 // Words stay whole unless one is wider than the popup, which it would stretch beyond its place.
-void break_long_words(GtkWidget* label) {
+void break_long_words(GtkWidget* label, const std::string& content) {
+    if (!may_be_too_wide(label, content)) return;
     int narrowest = 0;
     gtk_widget_show(label);  // hidden ones measure nothing
     gtk_widget_get_preferred_width(label, &narrowest, nullptr);
@@ -143,7 +168,7 @@ void _zo_notification::build_content(const zo::notification_text& text) {
     zo::add_class(widgets_.content_label, "content-text");
     fill_content_label(text);
     zo::keep_on_desktop(widgets_.content_label, most_lines);
-    break_long_words(widgets_.content_label);
+    break_long_words(widgets_.content_label, text.content);
     zo_ui_connect_label_link_activate(widgets_.content_label, [self = handle()](GtkLabel*, std::string& uri) {
         return self->on_link(uri);
     });
