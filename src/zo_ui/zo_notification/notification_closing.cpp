@@ -41,7 +41,7 @@ void _zo_notification::_close() {
     if (stack.popups) stack.popups->erase(id_);
     if (!zo_system_service_done()) {
         if (popup && !gtk_widget_in_destruction(popup)) gtk_widget_destroy(popup);
-        if (stack.popups) zo::restack(stack);
+        if (stack.popups) zo::close_gaps_soon(stack);
     }
     let_go_of_manager();
     set_opened(false);

@@ -68,6 +68,7 @@ void _zo_notification::place() {
 
 void _zo_notification::enter_stack(zo::popup_stack stack) {
     if (stack_.popups != stack.popups) leave_stack();
+    zo::close_gaps(stack.popups);
     zo::move_popup(widgets_.window, place_, zo::x_of(stack), zo::y_below(stack, id_));
     stack.popups->try_emplace(id_, widgets_.window);
     stack_ = std::move(stack);
@@ -78,7 +79,7 @@ void _zo_notification::leave_stack() {
     if (!stack_.popups) return;
     const zo::popup_stack left = std::exchange(stack_, {});
     left.popups->erase(id_);
-    if (!zo_system_service_done()) zo::restack(left);
+    if (!zo_system_service_done()) zo::close_gaps_soon(left);
 }
 
 void _zo_notification::join_list_of(const zo_window_manager_ptr& manager) {

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include <zo_ui/zo_notification/notification_stack_p.hpp>
 
+#include <zo_core/zo_service.hpp>
+#include <zo_core/zo_service_p.hpp>
 #include <zo_ui/zo_ui_screen.hpp>
 
 #include <algorithm>
@@ -16,6 +18,12 @@ constexpr int manager_x = 570;  // from the right end of the screen
 GQuark place_quark() {
     static const GQuark quark = g_quark_from_static_string("zo-popup-place");
     return quark;
+}
+
+// The stacks that have gaps, by container, with their owners.
+std::map<zo::popup_container*, zo_window_manager_ptr>& waiting() {
+    static auto& stacks = *new std::map<zo::popup_container*, zo_window_manager_ptr>;
+    return stacks;
 }
 
 // Null for a popup that the application put into the container.
@@ -79,17 +87,39 @@ int zo::y_below(const popup_stack& stack, unsigned long id) {
     return y;
 }
 
-void zo::restack(const popup_stack& stack) {
-    const int x = x_of(stack);
+namespace {
+
+// Hidden popups keep their place. What is not a window is passed over.
+void restack(const zo::popup_stack& stack) {
+    const int x = zo::x_of(stack);
     int y = top;
     for (const auto& [id, popup] : *stack.popups) {
         if (!popup || !GTK_IS_WINDOW(popup)) continue;
-        popup_place* own = own_place(popup);
+        zo::popup_place* own = own_place(popup);
         const int height = height_of(popup, own);
         if (own)
-            move_popup(popup, *own, x, y);
+            zo::move_popup(popup, *own, x, y);
         else
             gtk_window_move(GTK_WINDOW(popup), x, y);
         y = y_of(popup, own) + gap + height;
     }
+}
+
+}  // namespace
+
+void zo::close_gaps_soon(const popup_stack& stack) {
+    if (stack.popups->empty()) {
+        waiting().erase(stack.popups);  // and lets go of its owner
+        return;
+    }
+    if (!waiting().emplace(stack.popups, stack.owner).second) return;
+    after_batch([popups = stack.popups] { close_gaps(popups); });
+}
+
+void zo::close_gaps(popup_container* popups) {
+    const auto place = waiting().find(popups);
+    if (place == waiting().end()) return;
+    const popup_stack stack{place->second, popups};
+    waiting().erase(place);
+    if (!zo_system_service_done()) restack(stack);
 }

@@ -39,18 +39,32 @@ unsigned long requests_of_leaving(int count) {
     const stack all = show(count);
     const unsigned long before = requests();
     all.back()->get()->close_for_good();
+    test::run_tasks();
+    return requests() - before;
+}
+
+// Of all of them leaving in one turn of the loop, the oldest first: each would move all the others.
+unsigned long requests_of_leaving_together(int count) {
+    const stack all = show(count);
+    const unsigned long before = requests();
+    for (const auto& each : all) zo_notification_destroy(*each);
+    test::run_tasks();
     return requests() - before;
 }
 
 // The toolkit's own share of that: it looks at every window that is on screen.
-unsigned long requests_of_destroying(int others) {
+unsigned long requests_of_destroying(int count, int others) {
     const stack all = show(others);
-    GtkWidget* popup = gtk_window_new(GTK_WINDOW_POPUP);
-    gtk_container_add(GTK_CONTAINER(popup), gtk_button_new_with_label("plain"));
-    gtk_widget_show_all(popup);
+    std::vector<GtkWidget*> popups;
+    for (int i = 0; i < count; ++i) {
+        popups.push_back(gtk_window_new(GTK_WINDOW_POPUP));
+        gtk_container_add(GTK_CONTAINER(popups.back()), gtk_button_new_with_label("plain"));
+        gtk_widget_show_all(popups.back());
+    }
     test::settle_desktop();
     const unsigned long before = requests();
-    gtk_widget_destroy(popup);
+    for (GtkWidget* popup : popups) gtk_widget_destroy(popup);
+    test::run_tasks();
     return requests() - before;
 }
 
@@ -60,7 +74,12 @@ TEST(NotificationRequests, ShowingDoesNotGrowWithTheStack) {
 }
 
 TEST(NotificationRequests, LeavingMovesOnlyThoseBelow) {
-    EXPECT_EQ(requests_of_leaving(30), requests_of_destroying(29));
+    EXPECT_EQ(requests_of_leaving(30), requests_of_destroying(1, 29));
+}
+
+TEST(NotificationRequests, LeavingTogetherMovesNobody) {
+    const unsigned long events = 1;  // the desktop's, which nobody listens to any more
+    EXPECT_EQ(requests_of_leaving_together(30), requests_of_destroying(30, 0) + events);
 }
 
 }  // namespace
