@@ -64,6 +64,7 @@ zo_library(zo_ui
     zo_ui/zo_window_manager/manager_state.cpp
     zo_ui/zo_window_manager/manager_task.cpp
     zo_ui/zo_window_manager/manager_task_buttons.cpp
+    zo_ui/zo_window_manager/task_row.cpp
     zo_ui/zo_window_manager/window_list.cpp
   HEADERS
     zo_ui/platform/linux.hpp

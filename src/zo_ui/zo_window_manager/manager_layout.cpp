@@ -14,6 +14,7 @@
 #include <zo_ui/zo_ui_screen.hpp>
 #include <zo_ui/zo_ui_tools.hpp>
 #include <zo_ui/zo_ui_widgets.hpp>
+#include <zo_ui/zo_window_manager/task_row_p.hpp>
 
 #include <algorithm>
 
@@ -100,15 +101,16 @@ void _zo_window_manager::style_lock_button(bool locked) {
 }
 
 void _zo_window_manager::build_center_region() {
-    widgets_.taskbox_center = zo_ui_get_left_padding_widget(nullptr, true);
-    zo::add_class(widgets_.taskbox_center, "manager-taskbox-center");
     widgets_.taskbox_scroll = gtk_scrolled_window_new(nullptr, nullptr);
     zo::add_class(widgets_.taskbox_scroll, "manager-taskbox-scroll");
     auto* scroll = GTK_SCROLLED_WINDOW(widgets_.taskbox_scroll);
     gtk_scrolled_window_set_placement(scroll, GTK_CORNER_BOTTOM_RIGHT);
     gtk_scrolled_window_set_policy(scroll, GTK_POLICY_AUTOMATIC, GTK_POLICY_NEVER);
     gtk_scrolled_window_set_min_content_width(scroll, std::max(zo_ui_screen_width() - not_scrolled, 0));
-    gtk_container_add(GTK_CONTAINER(scroll), widgets_.taskbox_center);
+    widgets_.taskbox_center = zo::task_row_new(scroll);
+    gtk_widget_set_halign(widgets_.taskbox_center, GTK_ALIGN_START);
+    gtk_widget_set_valign(widgets_.taskbox_center, GTK_ALIGN_CENTER);
+    zo::add_class(widgets_.taskbox_center, "manager-taskbox-center");
     gtk_box_pack_start(GTK_BOX(widgets_.taskbox), widgets_.taskbox_scroll, TRUE, TRUE, 0);
 }
 

@@ -9,6 +9,7 @@
 #include <zo_ui/zo_ui_tools.hpp>
 #include <zo_ui/zo_ui_widgets.hpp>
 #include <zo_ui/zo_window/window_p.hpp>
+#include <zo_ui/zo_window_manager/task_row_p.hpp>
 
 namespace source = zo::manager_source;
 
@@ -73,10 +74,11 @@ void _zo_window_manager::forget_tasks() {
 }
 
 void _zo_window_manager::open_task_buttons_of_all() {
-    for (const zo_window_ptr& window : shown_windows_.snapshot()) {
-        open_task_buttons(window);
+    const std::vector<zo_window_ptr> windows = shown_windows_.snapshot();
+    for (const zo_window_ptr& window : windows) open_task_buttons(window);
+    // GTK computes a style to dim a button, and anew when the next comes beside it.
+    for (const zo_window_ptr& window : windows)
         if (!window->is_visible()) set_task_opacity(window, hidden_opacity);
-    }
 }
 
 void _zo_window_manager::open_task_buttons(const zo_window_ptr& window) {
@@ -118,7 +120,7 @@ void _zo_window_manager::pack_task(GtkWidget* button, zo::task_role role, const 
     tasks_[button] = {window.get(), role};
     g_signal_connect(button, "destroy", G_CALLBACK(on_task_destroyed), &tasks_);
     GtkWidget* wrapper = zo_ui_get_left_padding_widget(button, true);
-    gtk_box_pack_end(GTK_BOX(widgets_.taskbox_center), wrapper, FALSE, FALSE, 0);
+    zo::task_row_add(widgets_.taskbox_center, wrapper);
 }
 
 void _zo_window_manager::set_task_opacity(const zo_window_ptr& window, double opacity) {
