@@ -45,7 +45,7 @@ def compared(row, rounds, metric, size, beside, marks):
     return Line((row.title, str(size), metric.name, with_unit, *shown, said, verdict), reached)
 
 
-def lines_of(row, metrics, rounds):
+def lines_of(row, metrics, rounds, counts):
     lines = []
     for metric in metrics:
         for size in row.sizes:
@@ -53,7 +53,7 @@ def lines_of(row, metrics, rounds):
                 continue
             marks = {}
             for mark in metric.marks:
-                if mark.size is None or mark.size == size:
+                if mark.size in (None, size) and not (counts and mark.median_only):
                     other = f"@{mark.beside_size}" if mark.beside_size is not None else ""
                     marks.setdefault(mark.beside + other, []).append(mark)
             others = [name for name in row.contenders if name != "ours" and samples(rounds, size, name, metric)]

@@ -122,7 +122,7 @@ def main():
             Path(options.into).write_text(json.dumps(rounds))
             return 0
         metrics = [metric for metric in row.metrics if metric.counted or not options.counts]
-        lines += report.lines_of(row, metrics, rounds)
+        lines += report.lines_of(row, metrics, rounds, options.counts)
     report.show(lines)
     if not options.rows and not options.counts:
         report.write(root / "docs/benchmarks.md", [row for _, row in rows], lines)

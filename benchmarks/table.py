@@ -17,6 +17,7 @@ class Mark:
     at_least: float | None = None
     size: object = None          # only at this size; at each when None
     beside_size: object = None   # the contender's size, when it is another: how cost grows
+    median_only: bool = False    # not by script/bench --counts, whose one round may differ a little
 
     def holds(self, value):
         return (self.at_most is None or value <= self.at_most) and (self.at_least is None or value >= self.at_least)

@@ -52,7 +52,7 @@ class property_mutex {
     }
 
     std::recursive_mutex mutex_;
-    int depth_ = 0;                         // guarded by mutex_
+    int depth_ = 0;                          // guarded by mutex_
     std::atomic<std::uint64_t> version_{0};  // odd while the lock is held by who may change something
     std::array<std::atomic<std::uint64_t>, 16> flags_{};  // version, number and value; 0 for none
 };

@@ -22,7 +22,7 @@ void trace(zo::service_task& task, const char* what, const File& file, int line)
 }
 
 template <typename File>
-void exec(zo::service_task task, const File& file, int line) {
+void exec(zo::service_task&& task, const File& file, int line) {
     if (!accept(task, "zo_system_service_exec", file, line)) return;
     trace(task, "task", file, line);
     zo::task_queue::instance().post(task);
@@ -38,7 +38,7 @@ void zo_system_service_exec(std::function<void()> task, const char* file, int li
     exec(std::move(task), file, line);
 }
 
-void zo::post_task(service_task task, const char* file, int line) { exec(std::move(task), file, line); }
+void zo::post_task(service_task&& task, const char* file, int line) { exec(std::move(task), file, line); }
 
 unsigned long zo_system_service_timeout(std::function<void()> function, unsigned long milliseconds,
                                         std::string file, int line) {

@@ -20,22 +20,22 @@
 #include <utility>
 
 namespace zo {
-ZO_EXPORT void post_task(service_task task, const char* file, int line);
+ZO_EXPORT void post_task(service_task&& task, const char* file, int line);
 }
 
 /// @{
 /// Queues `task` to run once on the loop. Tasks run in the order of posting, those of all threads together; a
 /// task may post tasks, and a nested main loop inside one goes on running the others. The callable is
 /// destroyed on the loop. `file` and `line` name the poster; the overloads for literals build no string, and
-/// the one for any callable keeps a small one without asking for memory. An empty task is reported as a failed
-/// assertion and not queued.
+/// the one for any callable keeps a small one without asking for memory. An empty task is reported as a
+/// failed assertion and not queued.
 /// @thread any
 /// @state after the end of the service the task is dropped unseen
 ZO_EXPORT void zo_system_service_exec(std::function<void()> task, std::string file, int line);
 ZO_EXPORT void zo_system_service_exec(std::function<void()> task, const char* file, int line);
 template <typename Callable>
-    requires std::invocable<std::decay_t<Callable>&>
-void zo_system_service_exec(Callable&& task, const char* file, int line) {
+requires std::invocable < std::decay_t<Callable>
+& > void zo_system_service_exec(Callable&& task, const char* file, int line) {
     zo::post_task(std::forward<Callable>(task), file, line);
 }
 /// @}

@@ -16,8 +16,8 @@
 
 namespace zo {
 
-// Runs `last` when the tasks that wait now are through, once for all of what they do; at once outside of a task.
-// On the loop.
+// Runs `last` when the tasks that wait now are through, once for all of what they do; at once outside of a
+// task. On the loop.
 ZO_EXPORT void after_batch(service_task last);
 
 // First in, first out, from any thread to the default main context.
@@ -64,8 +64,8 @@ class task_queue {
     void attach(GSourceFuncs& functions, int priority, const char* name);
 
     std::mutex mutex_;
-    std::vector<service_task> posted_;   // guarded by mutex_
-    phase phase_ = phase::open;  // guarded by mutex_
+    std::vector<service_task> posted_;  // guarded by mutex_
+    phase phase_ = phase::open;         // guarded by mutex_
     std::atomic<bool> waiting_{false};
     std::atomic<bool> done_{false};
 
@@ -73,7 +73,7 @@ class task_queue {
     std::vector<service_task> ready_;
     std::size_t next_ready_ = 0;
     std::vector<service_task> last_;  // of the batches that run
-    int batches_ = 0;         // that run, each in a loop that is nested in the one before
+    int batches_ = 0;                 // that run, each in a loop that is nested in the one before
     std::uint64_t taken_ = 0;
     std::uint64_t begun_ = 0;
     gint64 aside_until_ = 0;  // monotonic time; until then the eager source stays aside

@@ -19,9 +19,8 @@ class service_task {
     service_task() = default;
 
     template <typename Callable>
-        requires(std::invocable<std::decay_t<Callable>&> &&
-                 !std::same_as<std::decay_t<Callable>, service_task>)
-    service_task(Callable&& callable) {  // implicit, as with std::function
+    requires(std::invocable<std::decay_t<Callable>&> && !std::same_as<std::decay_t<Callable>, service_task>)
+        service_task(Callable&& callable) {  // implicit, as with std::function
         using kept = std::decay_t<Callable>;
         if (is_empty(callable)) return;
         if constexpr (fits<kept>)
@@ -55,8 +54,8 @@ class service_task {
     static constexpr std::size_t room = 4 * sizeof(void*);
 
     template <typename T>
-    static constexpr bool fits = sizeof(T) <= room && alignof(T) <= alignof(void*) &&
-                                 std::is_nothrow_move_constructible_v<T>;
+    static constexpr bool fits = sizeof(T) <= room &&
+                                 alignof(T) <= alignof(void*) && std::is_nothrow_move_constructible_v<T>;
 
     template <typename T>
     static T& in(void* room) {

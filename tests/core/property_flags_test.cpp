@@ -4,10 +4,10 @@
 #include <zo_core/zo_core.hpp>
 #include <zo_core/zo_property_access_p.hpp>
 
-#include <boost/make_shared.hpp>
 #include <atomic>
-#include <thread>
+#include <boost/make_shared.hpp>
 #include <string>
+#include <thread>
 #include <vector>
 
 namespace {

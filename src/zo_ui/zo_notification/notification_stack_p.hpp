@@ -26,8 +26,8 @@ int x_of(const popup_stack& stack);
 int y_below(const popup_stack& stack, unsigned long id);
 
 // Moves the popups of a stack up to where others left. The first does it once for all that
-// leave in one turn of the loop, at its end: each move of hundreds of popups costs a request for each of them.
-// Who asks for a place calls the second before.
+// leave in one turn of the loop, at its end: each move of hundreds of popups costs a request for each of
+// them. Who asks for a place calls the second before.
 void close_gaps_soon(const popup_stack& stack);
 void close_gaps(popup_container* popups);
 

@@ -39,15 +39,15 @@ bool zo_window_set_bool_property(zo_window_ptr window, std::string name, bool va
 }
 
 // exported name, property
-#define ZO_WINDOW_FLAG(flag, property)                                             \
-    bool zo_window_get_##flag(zo_window_ptr window) {                              \
-        static const zo::flag_name name(property);                                 \
-        return !zo::refuse_null(window, __func__) && read_flag(*window, name);     \
-    }                                                                              \
-    bool zo_window_set_##flag(zo_window_ptr window, bool value) {                  \
-        if (zo::refuse_null(window, __func__)) return false;                       \
-        write_flag(*window, property, value);                                      \
-        return true;                                                               \
+#define ZO_WINDOW_FLAG(flag, property)                                         \
+    bool zo_window_get_##flag(zo_window_ptr window) {                          \
+        static const zo::flag_name name(property);                             \
+        return !zo::refuse_null(window, __func__) && read_flag(*window, name); \
+    }                                                                          \
+    bool zo_window_set_##flag(zo_window_ptr window, bool value) {              \
+        if (zo::refuse_null(window, __func__)) return false;                   \
+        write_flag(*window, property, value);                                  \
+        return true;                                                           \
     }
 
 ZO_WINDOW_FLAG(managed_window, "window-managed")

@@ -270,8 +270,8 @@ void zo::task_row_add(GtkWidget* row, GtkWidget* child) {
     slots_of(row).all.push_back({child, {}, {}, true, {}});
     set_told(child, true);
     g_signal_connect(child, "check-resize", G_CALLBACK(on_changed), row);
-    // For a visible child that comes GTK computes the styles of all others anew, for one that is shown it does
-    // not.
+    // For a visible child that comes GTK computes the styles of all others anew, for one that is shown it
+    // does not.
     gtk_widget_hide(child);
     gtk_box_pack_end(GTK_BOX(row), child, FALSE, FALSE, 0);
     gtk_widget_show(child);
