@@ -17,9 +17,9 @@
 #include <typeinfo>
 #include <utility>
 
-/// Values by name: to use as a `std::map<std::string, boost::any, std::less<>>`, ordered by name and looked up
-/// by any kind of string without making a copy of it. As with a vector, iterators and references hold until
-/// something is inserted or erased.
+/// Values by name: to use as a `std::map<std::string, boost::any, std::less<>>`, ordered by name and looked
+/// up by any kind of string without making a copy of it. As with a vector, iterators and references hold
+/// until something is inserted or erased.
 using property_list = zo::property_map;
 
 /// @{

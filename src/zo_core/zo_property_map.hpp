@@ -10,7 +10,7 @@
 #include <cstring>
 #include <forward_list>
 #include <map>
-#include <memory>
+#include <new>
 #include <stdexcept>
 #include <string>
 #include <string_view>
@@ -60,13 +60,14 @@ class property_key {
 // A value with its name, which the map keeps, or who gave it.
 class property_entry {
   public:
-    property_entry(const std::string& name, boost::any value) noexcept : first(name), second(std::move(value)) {}
+    property_entry(const std::string& name, boost::any value) noexcept
+        : first(name), second(std::move(value)) {}
     property_entry(property_entry&&) noexcept = default;
     property_entry& operator=(property_entry&& other) noexcept {
         if (this == &other) return *this;
         const property_entry old(std::move(*this));  // its value ends last
-        std::destroy_at(this);
-        std::construct_at(this, std::move(other));
+        this->~property_entry();
+        new (this) property_entry(std::move(other));
         return *this;
     }
     ~property_entry() = default;
@@ -215,7 +216,7 @@ class property_map {
         return false;
     }
 
-    std::vector<property_entry> entries_;      // in the order of their names
+    std::vector<property_entry> entries_;   // in the order of their names
     std::forward_list<std::string> names_;  // those that are nobody else's
 };
 

@@ -13,7 +13,6 @@
 #include <zo_core/zo_export.hpp>
 #include <zo_core/zo_service_task.hpp>
 
-#include <concepts>
 #include <functional>
 #include <string>
 #include <type_traits>
@@ -33,9 +32,8 @@ ZO_EXPORT void post_task(service_task&& task, const char* file, int line);
 /// @state after the end of the service the task is dropped unseen
 ZO_EXPORT void zo_system_service_exec(std::function<void()> task, std::string file, int line);
 ZO_EXPORT void zo_system_service_exec(std::function<void()> task, const char* file, int line);
-template <typename Callable>
-requires std::invocable < std::decay_t<Callable>
-& > void zo_system_service_exec(Callable&& task, const char* file, int line) {
+template <typename Callable, typename = std::enable_if_t<std::is_invocable_v<std::decay_t<Callable>&>>>
+void zo_system_service_exec(Callable&& task, const char* file, int line) {
     zo::post_task(std::forward<Callable>(task), file, line);
 }
 /// @}

@@ -3,13 +3,19 @@
 /// How a task is kept between its posting and its run. Programs post any callable and need none of this.
 #pragma once
 
-#include <concepts>
 #include <cstddef>
 #include <new>
 #include <type_traits>
 #include <utility>
 
 namespace zo {
+
+// Pointers and wrappers of functions may hold none.
+template <typename T, typename = void>
+constexpr bool may_hold_no_function = std::is_pointer_v<T>;
+template <typename T>
+constexpr bool may_hold_no_function<T, std::void_t<decltype(std::declval<const T&>().operator bool())>> =
+    true;
 
 // A callable that can be moved, but not copied. One that holds as much as a handle and a pointer to a member
 // is kept inside: its memory need not be asked for where it is posted and given back where it runs, which
@@ -18,9 +24,10 @@ class service_task {
   public:
     service_task() = default;
 
-    template <typename Callable>
-    requires(std::invocable<std::decay_t<Callable>&> && !std::same_as<std::decay_t<Callable>, service_task>)
-        service_task(Callable&& callable) {  // implicit, as with std::function
+    template <typename Callable,
+              typename = std::enable_if_t<std::is_invocable_v<std::decay_t<Callable>&> &&
+                                          !std::is_same_v<std::decay_t<Callable>, service_task>>>
+    service_task(Callable&& callable) {  // implicit, as with std::function
         using kept = std::decay_t<Callable>;
         if (is_empty(callable)) return;
         if constexpr (fits<kept>)
@@ -91,10 +98,9 @@ class service_task {
     template <typename T>
     static constexpr operations how_to{run<T>, move<T>, end<T>};
 
-    // Pointers and wrappers of functions may hold none.
     template <typename T>
     static bool is_empty(const T& callable) {
-        if constexpr (requires { callable.operator bool(); } || std::is_pointer_v<T>)
+        if constexpr (may_hold_no_function<T>)
             return !callable;
         else
             return false;
