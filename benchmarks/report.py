@@ -45,7 +45,7 @@ def compared(row, rounds, metric, size, beside, marks):
     return Line((row.title, str(size), metric.name, with_unit, *shown, said, verdict), reached)
 
 
-def lines_of(row, metrics, rounds, counts):
+def lines_of(row, metrics, rounds, counts=False):
     lines = []
     for metric in metrics:
         for size in row.sizes:

@@ -22,6 +22,13 @@ def verdicts(*marks):
     return [line.cells[-1] for line in report.lines_of(row, [metric], ROUNDS)]
 
 
+def counted(*marks):
+    """The verdicts of a run that only counts."""
+    metric = Metric("us", "us", list(marks), counted=True)
+    row = Row("row", "Row", {"ours": "a", "peer": "b"}, [metric], "", sizes=[10, 100])
+    return [line.cells[-1] for line in report.lines_of(row, [metric], ROUNDS, True)]
+
+
 def expect(got, wanted):
     if got != wanted:
         sys.exit(f"{got} instead of {wanted}")
@@ -36,6 +43,9 @@ expect(verdicts(Mark(at_most=2)), ["", "reached", "", "reached"])
 expect(verdicts(Mark(at_most=1.9, size=10)), ["", "MISSED", ""])
 expect(verdicts(Mark("ours", at_most=1, size=100, beside_size=10)), ["", "", "reached"])
 expect(verdicts(Mark("ours", at_most=0.9, size=100, beside_size=10)), ["", "", "MISSED"])
+expect(counted(Mark("peer", at_most=0.49, median_only=True)), ["", ""])
+expect(verdicts(Mark("peer", at_most=0.49, median_only=True)), ["MISSED", "reached"])
+expect(counted(Mark("peer", at_most=0.49)), ["MISSED", "reached"])
 expect(run.printed("us 12.5\na word\ncount 3\nsmall 2.5e-06\n"), {"us": 12.5, "count": 3.0, "small": 2.5e-06})
 
 names = [row.name for _, rows in run.groups() for row in rows]

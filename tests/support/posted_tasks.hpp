@@ -6,6 +6,7 @@
 #include <zo_core/zo_service.hpp>
 
 #include <functional>
+#include <memory>
 #include <string>
 #include <utility>
 #include <vector>
@@ -30,6 +31,11 @@ void zo_system_service_exec(std::function<void()> task, std::string file, int li
 
 void zo_system_service_exec(std::function<void()> task, const char* file, int line) {
     test::posts.push_back({std::move(task), file, line});
+}
+
+void zo::post_task(service_task&& task, const char* file, int line) {
+    const auto kept = std::make_shared<service_task>(std::move(task));
+    test::posts.push_back({[kept] { (*kept)(); }, file, line});
 }
 
 unsigned long zo_system_service_timeout(std::function<void()> task, unsigned long milliseconds,
