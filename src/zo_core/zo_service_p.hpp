@@ -69,8 +69,9 @@ class task_queue {
     std::atomic<bool> waiting_{false};
     std::atomic<bool> done_{false};
 
-    // Touched only by the thread that iterates the main context.
-    std::vector<service_task> ready_;
+    // Touched only by the thread that iterates the main context, and apart from what the posting ones touch: a
+    // cache line that is shared goes to and fro with each task.
+    alignas(128) std::vector<service_task> ready_;
     std::size_t next_ready_ = 0;
     std::vector<service_task> last_;  // of the batches that run
     int batches_ = 0;                 // that run, each in a loop that is nested in the one before
