@@ -30,15 +30,11 @@ def held_by(any_value):
     return at(int(any_value["content"]) + WORD, READABLE[kind]) if kind in READABLE else None
 
 
-def properties_of(list_value):
-    """Names and values of a property list, whose entries stand in a vector."""
-    entries = list_value["entries_"]["_M_impl"]
-    entry, end = entries["_M_start"], entries["_M_finish"]
-    pairs = []
-    while entry != end:
-        pairs.append((entry["first"].referenced_value().format_string().strip('"'), entry["second"]))
-        entry += 1
-    return pairs
+def properties_of(map_value):
+    """Names and values, by the standard library's own printer."""
+    printer = gdb.default_visualizer(map_value)
+    pairs = [value for _, value in printer.children()] if printer else []
+    return [(pairs[i].format_string().strip('"'), pairs[i + 1]) for i in range(0, len(pairs) - 1, 2)]
 
 
 class AnyPrinter:
@@ -76,19 +72,7 @@ class HandlePrinter:
         return ((f'["{name}"]', value) for name, value in self.pairs)
 
 
-class ListPrinter:
-    def __init__(self, value):
-        self.value = value
-
-    def to_string(self):
-        return "property_list"
-
-    def children(self):
-        return ((f'["{name}"]', value) for name, value in properties_of(self.value))
-
-
 zo_printers = gdb.printing.RegexpCollectionPrettyPrinter("zo")
 zo_printers.add_printer("handle", r"^boost::shared_ptr<_zo_\w+>$", HandlePrinter)
-zo_printers.add_printer("list", r"^zo::property_map$", ListPrinter)
 zo_printers.add_printer("any", r"^boost::any$", AnyPrinter)
 gdb.printing.register_pretty_printer(gdb.current_objfile(), zo_printers, replace=True)

@@ -20,7 +20,6 @@ zo_library(zo_core
     zo_core/zo_lang.hpp
     zo_core/zo_object.hpp
     zo_core/zo_property.hpp
-    zo_core/zo_property_map.hpp
     zo_core/zo_property_mutex.hpp
     zo_core/zo_service.hpp
     zo_core/zo_service_task.hpp

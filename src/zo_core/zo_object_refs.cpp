@@ -6,8 +6,6 @@
 #include <zo_core/zo_diagnostics_p.hpp>
 
 #include <atomic>
-#include <map>
-#include <mutex>
 
 namespace {
 

@@ -82,16 +82,6 @@ class property_guard {
         check(done, "zo_property_init", type_text<T>::value, name, {value_text});
     }
 
-    // With a name that outlives the object.
-    template <typename T>
-    void init(const std::string& name, T value, const char* value_text) {
-        const property_key key(name);
-        const auto place = object_.property_list.lower_bound(key);
-        const bool done = place == object_.property_list.end() || place->first != key;
-        if (done) object_.property_list.emplace_kept(place, name, boost::any(std::move(value)));
-        check(done, "zo_property_init", type_text<T>::value, name, {value_text});
-    }
-
     // False when the property is missing; `value` then stays.
     template <typename T, typename Name>
     bool read(const Name& name, T& value, const spelling& how) {

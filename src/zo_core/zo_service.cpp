@@ -22,10 +22,10 @@ void trace(zo::service_task& task, const char* what, const File& file, int line)
 }
 
 template <typename File>
-void exec(zo::service_task&& task, const File& file, int line) {
+void exec(zo::service_task&& task, const File& file, int line, bool gathers = false) {
     if (!accept(task, "zo_system_service_exec", file, line)) return;
     trace(task, "task", file, line);
-    zo::task_queue::instance().post(task);
+    zo::task_queue::instance().post(task, gathers);
 }
 
 }  // namespace
@@ -39,6 +39,10 @@ void zo_system_service_exec(std::function<void()> task, const char* file, int li
 }
 
 void zo::post_task(service_task&& task, const char* file, int line) { exec(std::move(task), file, line); }
+
+void zo::post_gathering(service_task&& task, const char* file, int line) {
+    exec(std::move(task), file, line, true);
+}
 
 unsigned long zo_system_service_timeout(std::function<void()> function, unsigned long milliseconds,
                                         std::string file, int line) {

@@ -16,9 +16,11 @@
 
 namespace zo {
 
-// Runs `last` when the tasks that wait now are through, once for all of what they do; at once outside of a
-// task. On the loop.
-ZO_EXPORT void after_batch(service_task last);
+// Posts a task of which there may be many in a row, each with the same to do at its end.
+ZO_EXPORT void post_gathering(service_task&& task, const char* file, int line);
+
+// Runs `last` after the last of such tasks in a row when one of them runs, else at once. On the loop.
+ZO_EXPORT void after_gathering(service_task last);
 
 // First in, first out, from any thread to the default main context.
 //
@@ -31,12 +33,12 @@ class task_queue {
     static task_queue& instance();
 
     // False when the service has ended; `next` is then untouched.
-    bool post(service_task& next);
+    bool post(service_task& next, bool gathers = false);
 
     // Runs what is queued now, and what it posts, until nothing is left, then refuses every post.
     void end();
 
-    void after_batch(service_task& last);
+    void after_gathering(service_task& last);
 
     // Lets everything else on the loop go before the next task, for a little. On the loop.
     void let_others_first();
@@ -45,6 +47,11 @@ class task_queue {
 
   private:
     enum class phase { open, ending, closed };
+
+    struct entry {
+        service_task run;
+        bool gathers;
+    };
 
     task_queue();
     void take_posted();
@@ -64,17 +71,17 @@ class task_queue {
     void attach(GSourceFuncs& functions, int priority, const char* name);
 
     std::mutex mutex_;
-    std::vector<service_task> posted_;  // guarded by mutex_
-    phase phase_ = phase::open;         // guarded by mutex_
+    std::vector<entry> posted_;  // guarded by mutex_
+    phase phase_ = phase::open;  // guarded by mutex_
     std::atomic<bool> waiting_{false};
     std::atomic<bool> done_{false};
 
-    // Touched only by the thread that iterates the main context, and apart from what the posting ones touch: a
-    // cache line that is shared goes to and fro with each task.
-    alignas(128) std::vector<service_task> ready_;
+    // Touched only by the thread that iterates the main context, and apart from what the posting ones touch:
+    // a cache line that is shared goes to and fro with each task.
+    alignas(128) std::vector<entry> ready_;
     std::size_t next_ready_ = 0;
-    std::vector<service_task> last_;  // of the batches that run
-    int batches_ = 0;                 // that run, each in a loop that is nested in the one before
+    std::vector<service_task> last_;  // of the gathering tasks that ran
+    bool gathering_ = false;          // is the task that runs one of them?
     std::uint64_t taken_ = 0;
     std::uint64_t begun_ = 0;
     gint64 aside_until_ = 0;  // monotonic time; until then the eager source stays aside

@@ -25,7 +25,7 @@ constexpr std::size_t kept_capacity = 1024;
 
 namespace zo {
 
-void after_batch(service_task last) { task_queue::instance().after_batch(last); }
+void after_gathering(service_task last) { task_queue::instance().after_gathering(last); }
 
 task_queue& task_queue::instance() {
     static auto& queue = *new task_queue;  // never destroyed: objects in static storage may still post
@@ -49,12 +49,12 @@ void task_queue::attach(GSourceFuncs& functions, int priority, const char* name)
     g_source_unref(source);
 }
 
-bool task_queue::post(service_task& next) {
+bool task_queue::post(service_task& next, bool gathers) {
     bool asleep = false;
     {
         std::lock_guard lock(mutex_);
         if (phase_ == phase::closed) return false;
-        posted_.push_back(std::move(next));
+        posted_.push_back({std::move(next), gathers});
         asleep = !waiting_;
         if (asleep) waiting_ = true;
     }
@@ -70,21 +70,27 @@ void task_queue::take_posted() {
         ready_.swap(posted_);
         return;
     }
-    for (service_task& next : posted_) ready_.push_back(std::move(next));
+    for (entry& next : posted_) ready_.push_back(std::move(next));
     posted_.clear();
 }
 
 // Everything here is in order again before the task runs: it may run a nested loop, or throw.
 void task_queue::run_one() {
-    service_task next = std::move(ready_[next_ready_]);
+    if (!last_.empty() && !ready_[next_ready_].gathers) return run_last();
+    entry next = std::move(ready_[next_ready_]);
     ++next_ready_;
     ++begun_;
     if (next_ready_ == ready_.size()) {
         next_ready_ = 0;
         ready_.clear();
-        if (ready_.capacity() > kept_capacity) std::vector<service_task>().swap(ready_);
+        if (ready_.capacity() > kept_capacity) std::vector<entry>().swap(ready_);
     }
-    next();
+    struct restore {
+        bool& value;
+        const bool before;
+        ~restore() { value = before; }
+    } const at_the_end{gathering_, std::exchange(gathering_, next.gathers)};
+    next.run();
 }
 
 void task_queue::note_waiting() {
@@ -96,12 +102,10 @@ void task_queue::run_batch() {
     struct leave {
         task_queue& queue;
         ~leave() {
-            --queue.batches_;
             queue.note_waiting();
             queue.aside_until_ = queue.waiting_ ? g_get_monotonic_time() + patience : 0;
         }
     } const at_the_end{*this};
-    ++batches_;
     if (!draining_ && is(phase::ending)) {
         drain();
     } else {
@@ -112,10 +116,10 @@ void task_queue::run_batch() {
     run_last();
 }
 
-void task_queue::after_batch(service_task& last) {
-    if (batches_ == 0) return last();
+void task_queue::after_gathering(service_task& last) {
+    if (!gathering_) return last();
     last_.push_back(std::move(last));
-    waiting_ = true;  // a loop that is nested in the batch does not wait for its end
+    waiting_ = true;  // a loop that is nested in the task does not wait for its end
 }
 
 void task_queue::run_last() {
@@ -143,7 +147,7 @@ bool task_queue::try_close() {
 }
 
 void task_queue::discard() {
-    std::vector<service_task> rest;
+    std::vector<entry> rest;
     std::lock_guard lock(mutex_);
     phase_ = phase::closed;
     rest.swap(posted_);

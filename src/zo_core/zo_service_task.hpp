@@ -4,6 +4,8 @@
 #pragma once
 
 #include <cstddef>
+#include <functional>
+#include <memory>
 #include <new>
 #include <type_traits>
 #include <utility>
@@ -11,11 +13,10 @@
 namespace zo {
 
 // Pointers and wrappers of functions may hold none.
-template <typename T, typename = void>
-constexpr bool may_hold_no_function = std::is_pointer_v<T>;
 template <typename T>
-constexpr bool may_hold_no_function<T, std::void_t<decltype(std::declval<const T&>().operator bool())>> =
-    true;
+constexpr bool may_hold_no_function = std::is_pointer_v<T>;
+template <typename Result, typename... Arguments>
+constexpr bool may_hold_no_function<std::function<Result(Arguments...)>> = true;
 
 // A callable that can be moved, but not copied. One that holds as much as a handle and a pointer to a member
 // is kept inside: its memory need not be asked for where it is posted and given back where it runs, which
@@ -31,9 +32,9 @@ class service_task {
         using kept = std::decay_t<Callable>;
         if (is_empty(callable)) return;
         if constexpr (fits<kept>)
-            new (room_) kept(std::forward<Callable>(callable));
+            ::new (static_cast<void*>(room_)) kept(std::forward<Callable>(callable));
         else
-            new (room_) kept*(new kept(std::forward<Callable>(callable)));
+            ::new (static_cast<void*>(room_)) kept*(new kept(std::forward<Callable>(callable)));
         how_ = &how_to<kept>;
     }
 
@@ -74,16 +75,16 @@ class service_task {
 
     template <typename T>
     static void run(void* room) {
-        in<T>(room)();
+        static_cast<void>(in<T>(room)());
     }
 
     template <typename T>
     static void move(void* from, void* to) noexcept {
         if constexpr (fits<T>) {
-            new (to) T(std::move(in<T>(from)));
+            ::new (to) T(std::move(in<T>(from)));
             in<T>(from).~T();
         } else {
-            new (to) T*(&in<T>(from));
+            ::new (to) T*(std::addressof(in<T>(from)));
         }
     }
 
@@ -92,7 +93,7 @@ class service_task {
         if constexpr (fits<T>)
             in<T>(room).~T();
         else
-            delete &in<T>(room);
+            delete std::addressof(in<T>(room));
     }
 
     template <typename T>

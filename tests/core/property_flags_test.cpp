@@ -16,7 +16,12 @@ const zo::flag_name bright("bright");
 
 class PropertyFlags : public testing::Test {
   protected:
-    PropertyFlags() { zo_property_init<bool>(object->property_list, "bright", true); }
+    // Flags are remembered when several threads read them.
+    PropertyFlags() {
+        zo_property_init<bool>(object->property_list, "bright", true);
+        read();
+        std::thread([this] { read(); }).join();
+    }
 
     bool read(const zo::flag_name& name = bright) const {
         return zo::property_guard::flag(*object, name, "test", 1, {"&value"});
@@ -130,16 +135,31 @@ class PropertyMutex : public testing::Test {
         mutex.remember(flag, value);
         mutex.unlock();
     }
+    // From now on what is read is remembered.
+    void look_from_two_threads() {
+        look(3, true);
+        std::thread([this] { look(4, true); }).join();
+    }
     zo::property_mutex mutex;
 };
 
+TEST_F(PropertyMutex, RemembersNothingForOneThreadAlone) {
+    look(1, true);
+    look(2, false);
+    EXPECT_TRUE(is_unknown(1));
+    EXPECT_TRUE(is_unknown(2));
+    std::thread([this] { look(1, true); }).join();
+    EXPECT_TRUE(remembered(1, true));
+}
+
 TEST_F(PropertyMutex, RemembersSeveralUntilItIsTaken) {
     EXPECT_TRUE(is_unknown(1));
+    look_from_two_threads();
     look(1, true);
     look(2, false);
     EXPECT_TRUE(remembered(1, true));
     EXPECT_TRUE(remembered(2, false));
-    EXPECT_TRUE(is_unknown(3));
+    EXPECT_TRUE(is_unknown(5));
     mutex.lock();
     EXPECT_TRUE(is_unknown(1));
     mutex.unlock();
@@ -148,6 +168,7 @@ TEST_F(PropertyMutex, RemembersSeveralUntilItIsTaken) {
 }
 
 TEST_F(PropertyMutex, RemembersNothingOfAnInnerHolder) {
+    look_from_two_threads();
     mutex.lock();
     look(1, true);
     EXPECT_TRUE(is_unknown(1));
@@ -156,6 +177,7 @@ TEST_F(PropertyMutex, RemembersNothingOfAnInnerHolder) {
 }
 
 TEST_F(PropertyMutex, TellsFlagsOfOnePlaceApart) {
+    look_from_two_threads();
     look(1, true);
     EXPECT_TRUE(is_unknown(17));
     look(17, false);
@@ -164,6 +186,8 @@ TEST_F(PropertyMutex, TellsFlagsOfOnePlaceApart) {
 }
 
 TEST_F(PropertyMutex, RemembersNothingWithoutANumber) {
+    EXPECT_TRUE(is_unknown(0));
+    look_from_two_threads();
     look(0, true);
     EXPECT_TRUE(is_unknown(0));
 }

@@ -90,6 +90,11 @@ TEST(ServiceTask, KnowsWhatHoldsNoFunction) {
     EXPECT_TRUE(zo::service_task(nothing));
     EXPECT_TRUE(zo::service_task(std::function<void()>(nothing)));
     EXPECT_TRUE(zo::service_task([] {}));
+    struct job {
+        explicit operator bool() const { return false; }  // of its own meaning
+        void operator()() const {}
+    };
+    EXPECT_TRUE(zo::service_task(job()));
 }
 
 TEST(ServiceTask, EveryCallableCanBePosted) {

@@ -21,7 +21,7 @@ add_dependencies(core_catalogue_test zo_catalogues)
 zo_test(core_place_test FILES core/place_test.cpp)
 
 zo_test(core_service_order_test FILES core/service_order_test.cpp core/sleeping_loop.cpp)
-zo_test(core_service_batch_test FILES core/service_batch_test.cpp)
+zo_test(core_service_gathering_test FILES core/service_gathering_test.cpp)
 zo_test(core_service_task_test FILES core/service_task_test.cpp)
 zo_test(core_service_captures_test FILES core/service_captures_test.cpp)
 zo_test(core_service_fairness_test FILES core/service_fairness_test.cpp)

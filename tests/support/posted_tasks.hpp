@@ -4,6 +4,7 @@
 #pragma once
 
 #include <zo_core/zo_service.hpp>
+#include <zo_core/zo_service_p.hpp>
 
 #include <functional>
 #include <memory>
@@ -36,6 +37,10 @@ void zo_system_service_exec(std::function<void()> task, const char* file, int li
 void zo::post_task(service_task&& task, const char* file, int line) {
     const auto kept = std::make_shared<service_task>(std::move(task));
     test::posts.push_back({[kept] { (*kept)(); }, file, line});
+}
+
+void zo::post_gathering(service_task&& task, const char* file, int line) {
+    post_task(std::move(task), file, line);
 }
 
 unsigned long zo_system_service_timeout(std::function<void()> task, unsigned long milliseconds,

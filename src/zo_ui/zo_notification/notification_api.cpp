@@ -4,6 +4,7 @@
 
 #include <zo_core/zo_diagnostics_p.hpp>
 #include <zo_core/zo_service.hpp>
+#include <zo_core/zo_service_p.hpp>
 #include <zo_ui/zo_window_manager/manager_notification_p.hpp>
 
 namespace source = zo::notification_source;
@@ -12,8 +13,11 @@ void _zo_notification::post(void (_zo_notification::*operation)(), int line) {
     zo_system_service_exec([self = handle(), operation] { (self.get()->*operation)(); }, source::file, line);
 }
 
-// Closing twice is silent, so there is no guard here.
-void _zo_notification::destroy(std::string, int) { post(&_zo_notification::close_for_good, source::destroy); }
+// Closing twice is silent, so there is no guard here. Of many that go in a row, only the last moves the
+// others.
+void _zo_notification::destroy(std::string, int) {
+    zo::post_gathering([self = handle()] { self->close_for_good(); }, source::file, source::destroy);
+}
 
 void zo::show_notification(_zo_notification& notification) {
     notification.post(&_zo_notification::_show, source::show);

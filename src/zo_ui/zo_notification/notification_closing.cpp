@@ -20,8 +20,12 @@ void _zo_notification::close_for_good() {
     const zo_notification_ptr self = handle();
     zo::notification_callables callables = begin_closing();
     cancel_timeout();
+    zo::popup_container* const stack = stack_.popups;
     _close();
-    if (callables.on_close) callables.on_close(self);
+    if (callables.on_close) {
+        zo::close_gaps(stack);
+        callables.on_close(self);
+    }
     callables.on_link = nullptr;
     callables.on_close = nullptr;
     while (!callables.actions.empty()) callables.actions.erase(callables.actions.begin());

@@ -84,12 +84,21 @@ double font_size(GtkWidget* label) {
         pango_context_get_font_description(gtk_widget_get_pango_context(label));
     const double size = static_cast<double>(pango_font_description_get_size(font)) / PANGO_SCALE;
     if (pango_font_description_get_size_is_absolute(font)) return size;
-    return size * gdk_screen_get_resolution(gtk_widget_get_screen(label)) / 72;
+    const double dpi = gdk_screen_get_resolution(gtk_widget_get_screen(label));
+    return size * (dpi > 0 ? dpi : 96) / 72;
+}
+
+bool spaces_letters(GtkWidget* label) {
+    double spacing = 0;
+    gtk_style_context_get(gtk_widget_get_style_context(label), gtk_widget_get_state_flags(label),
+                          "letter-spacing", &spacing, nullptr);
+    return spacing != 0;
 }
 
 // False for what is surely narrow enough: to measure a text takes as long as to show it.
 bool may_be_too_wide(GtkWidget* label, const std::string& content) {
     if (content != gtk_label_get_text(GTK_LABEL(label))) return true;  // markup may say anything of letters
+    if (spaces_letters(label)) return true;
     std::size_t word = 0;
     std::size_t longest = 0;
     for (const char letter : content) {

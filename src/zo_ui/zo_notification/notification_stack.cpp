@@ -113,7 +113,7 @@ void zo::close_gaps_soon(const popup_stack& stack) {
         return;
     }
     if (!waiting().emplace(stack.popups, stack.owner).second) return;
-    after_batch([popups = stack.popups] { close_gaps(popups); });
+    after_gathering([popups = stack.popups] { close_gaps(popups); });
 }
 
 void zo::close_gaps(popup_container* popups) {

@@ -25,9 +25,9 @@ int x_of(const popup_stack& stack);
 // The y for the popup of `id`: below the older ones of a manager's stack, below all of the process's.
 int y_below(const popup_stack& stack, unsigned long id);
 
-// Moves the popups of a stack up to where others left. The first does it once for all that
-// leave in one turn of the loop, at its end: each move of hundreds of popups costs a request for each of
-// them. Who asks for a place calls the second before.
+// Moves the popups of a stack up to where others left. The first does it once for all that the application
+// destroyed in a row: each move of hundreds of popups costs a request for each of them. Who asks for a place,
+// or lets the application look, calls the second before.
 void close_gaps_soon(const popup_stack& stack);
 void close_gaps(popup_container* popups);
 

@@ -11,7 +11,7 @@ namespace zo {
 // One callback property: how it comes into being and how it is emptied.
 struct window_callback_row {
     const char* name;
-    void (*init)(property_guard& guard, const std::string& name);
+    void (*init)(property_guard& guard, const char* name);
     boost::any (*clear)(property_guard& guard, const char* name);  // the callable that stood there
 };
 

@@ -7,7 +7,7 @@ namespace {
 using zo::window_callback_row;
 
 template <typename Signature>
-void init_callback(zo::property_guard& guard, const std::string& name) {
+void init_callback(zo::property_guard& guard, const char* name) {
     guard.init<std::function<Signature>>(name, nullptr, "nullptr");
 }
 
@@ -79,40 +79,17 @@ constexpr flag_default flags[] = {
     {"use_scroll", true},
 };
 
-// The names, which all windows share.
-struct property_names {
-    property_names() {
-        for (const window_callback_row& row : ::callbacks) callbacks.emplace_back(row.name);
-        for (const flag_default& flag : ::flags) flags.emplace_back(flag.name);
-    }
-    std::vector<std::string> callbacks;
-    std::vector<std::string> flags;
-    std::string title = "window-title-text";
-    std::string style_class = "window-class";
-    std::string id = "window-id";
-    std::string instance = "instanceId";
-    static constexpr std::size_t count = std::size(::callbacks) + std::size(::flags) + 4;
-};
-
-// Never destroyed: windows in static storage may outlive it.
-const property_names& names() {
-    static const auto& all = *new property_names;
-    return all;
-}
-
 }  // namespace
 
 void _zo_window::init_properties() {
     zo::property_guard guard(*this, zo::window_source::file, zo::window_source::constructor);
-    const property_names& name = names();
-    property_list.reserve(property_list.size() + property_names::count);
-    for (std::size_t i = 0; i < std::size(callbacks); ++i) callbacks[i].init(guard, name.callbacks[i]);
-    for (std::size_t i = 0; i < std::size(flags); ++i)
-        guard.init<bool>(name.flags[i], flags[i].value, flags[i].value ? "true" : "false");
-    guard.init<std::string>(name.title, "", "\"\"");
-    guard.init<std::string>(name.style_class, "global-window", "\"global-window\"");
-    guard.init<std::string>(name.id, "", "\"\"");
-    guard.init<int>(name.instance, 0, "0");
+    for (const window_callback_row& row : callbacks) row.init(guard, row.name);
+    for (const flag_default& flag : flags)
+        guard.init<bool>(flag.name, flag.value, flag.value ? "true" : "false");
+    guard.init<std::string>("window-title-text", "", "\"\"");
+    guard.init<std::string>("window-class", "global-window", "\"global-window\"");
+    guard.init<std::string>("window-id", "", "\"\"");
+    guard.init<int>("instanceId", 0, "0");
 }
 
 // All but "window-close", which the close inside a destroy still calls.

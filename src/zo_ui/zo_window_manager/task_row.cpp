@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include <zo_ui/zo_window_manager/task_row_p.hpp>
 
+#include <zo_ui/toolkit/layout_idle_p.hpp>
+
 #include <algorithm>
 #include <initializer_list>
+#include <utility>
 #include <vector>
 
 namespace {
@@ -23,10 +26,12 @@ struct sight {
 };
 
 struct task_slots {
-    GtkScrolledWindow* scroller;
-    std::vector<task_slot> all;  // the rightmost first
-    sight seen;                  // at the last layout
-    const GdkRectangle* drawn;   // while the row is drawn: what of it
+    GtkAdjustment* scrolled = nullptr;    // the row's own reference
+    std::vector<task_slot> all;           // the rightmost first
+    sight seen;                           // at the last layout
+    const GdkRectangle* drawn = nullptr;  // what of the row, while its drawing begins
+    bool plain = false;                   // a box like any other, since somebody packed into it
+    zo::layout_idle later;
 };
 
 struct task_row {
@@ -62,15 +67,60 @@ GtkAllocation content_of(GtkWidget* row, const GtkAllocation& place) {
         {gtk_style_context_get_margin, gtk_style_context_get_border, gtk_style_context_get_padding});
 }
 
-// Nobody tells of changes before the row is realized.
+GtkContainerClass* box() { return GTK_CONTAINER_CLASS(box_class); }
+
+// A container of this mode is told when something in it changes its size, and tells nobody else.
+void set_told(GtkWidget* child, bool told) {
+    G_GNUC_BEGIN_IGNORE_DEPRECATIONS
+    gtk_container_set_resize_mode(GTK_CONTAINER(child), told ? GTK_RESIZE_IMMEDIATE : GTK_RESIZE_PARENT);
+    G_GNUC_END_IGNORE_DEPRECATIONS
+}
+
+void let_go(GtkWidget* row, GtkWidget* child) {
+    g_signal_handlers_disconnect_by_data(child, row);
+    set_told(child, false);
+}
+
+// Does the box hold what was added here, in that order, and nothing else?
+bool is_as_added(GtkWidget* row) {
+    struct walk {
+        std::vector<task_slot>::const_reverse_iterator next;
+        std::vector<task_slot>::const_reverse_iterator end;
+        bool same = true;
+    };
+    const std::vector<task_slot>& all = slots_of(row).all;
+    walk state{all.rbegin(), all.rend()};
+    const auto look = +[](GtkWidget* child, gpointer data) {
+        auto& at = *static_cast<walk*>(data);
+        if (at.next == at.end || at.next->child != child)
+            at.same = false;
+        else
+            ++at.next;
+    };
+    box()->forall(GTK_CONTAINER(row), FALSE, look, &state);
+    return state.same && state.next == state.end;
+}
+
+// What an application packs or orders by itself is a matter for a box.
+bool is_plain(GtkWidget* row) {
+    task_slots& slots = slots_of(row);
+    if (slots.plain || is_as_added(row)) return slots.plain;
+    slots.plain = true;
+    for (const task_slot& slot : std::exchange(slots.all, {})) let_go(row, slot.child);
+    return true;
+}
+
+// Nobody tells of changes before the row is realized, or in what is hidden.
 void measure(GtkWidget* row) {
     const bool told = gtk_widget_get_realized(row);
     for (task_slot& slot : slots_of(row).all) {
-        if (!slot.changed && told) continue;
-        slot.changed = false;
-        slot.smallest = slot.natural = {};
-        if (gtk_widget_get_visible(slot.child))
+        if (!gtk_widget_get_visible(slot.child)) {
+            slot.smallest = slot.natural = {};
+            slot.changed = true;
+        } else if (slot.changed || !told) {
+            slot.changed = false;
             gtk_widget_get_preferred_size(slot.child, &slot.smallest, &slot.natural);
+        }
     }
 }
 
@@ -82,9 +132,12 @@ int with_edges(GtkWidget* row, int content, const char* least, int GtkAllocation
     return std::max(content, asked) - content_of(row, {}).*extent;
 }
 
-GtkSizeRequestMode request_mode(GtkWidget*) { return GTK_SIZE_REQUEST_CONSTANT_SIZE; }
+GtkSizeRequestMode request_mode(GtkWidget* row) {
+    return is_plain(row) ? box_class->get_request_mode(row) : GTK_SIZE_REQUEST_CONSTANT_SIZE;
+}
 
 void preferred_width(GtkWidget* row, int* smallest, int* natural) {
+    if (is_plain(row)) return box_class->get_preferred_width(row, smallest, natural);
     measure(row);
     int least = 0;
     int best = 0;
@@ -97,6 +150,7 @@ void preferred_width(GtkWidget* row, int* smallest, int* natural) {
 }
 
 void preferred_height(GtkWidget* row, int* smallest, int* natural) {
+    if (is_plain(row)) return box_class->get_preferred_height(row, smallest, natural);
     measure(row);
     int least = 0;
     int best = 0;
@@ -122,8 +176,7 @@ std::vector<GtkRequestedSize> widths_of(const std::vector<task_slot>& slots, int
     return sizes;
 }
 
-sight sight_of(GtkScrolledWindow* scroller) {
-    GtkAdjustment* const scrolled = gtk_scrolled_window_get_hadjustment(scroller);
+sight sight_of(GtkAdjustment* scrolled) {
     const double first = gtk_adjustment_get_value(scrolled);
     return {first, first + gtk_adjustment_get_page_size(scrolled)};
 }
@@ -144,12 +197,13 @@ bool place(task_slot& slot, const GtkAllocation& wanted, const sight& seen) {
 }
 
 void allocate(GtkWidget* row, GtkAllocation* allocation) {
+    if (is_plain(row)) return box_class->size_allocate(row, allocation);
     gtk_widget_set_allocation(row, allocation);
     task_slots& slots = slots_of(row);
     const GtkAllocation content = content_of(row, *allocation);
     const std::vector<GtkRequestedSize> widths = widths_of(slots.all, content.width);
     const bool right_to_left = gtk_widget_get_direction(row) == GTK_TEXT_DIR_RTL;
-    slots.seen = sight_of(slots.scroller);
+    slots.seen = sight_of(slots.scrolled);
     GtkAllocation clip = *allocation;
     int used = 0;
     for (std::size_t i = 0; i < widths.size(); ++i) {
@@ -166,6 +220,7 @@ void allocate(GtkWidget* row, GtkAllocation* allocation) {
 }
 
 gboolean draw(GtkWidget* row, cairo_t* cairo) {
+    if (is_plain(row)) return box_class->draw(row, cairo);
     GdkRectangle drawn{};
     if (!gdk_cairo_get_clip_rectangle(cairo, &drawn)) return FALSE;
     GtkAllocation place{};
@@ -178,18 +233,18 @@ gboolean draw(GtkWidget* row, cairo_t* cairo) {
     gtk_render_background(style, cairo, frame.x, frame.y, frame.width, frame.height);
     gtk_render_frame(style, cairo, frame.x, frame.y, frame.width, frame.height);
     slots_of(row).drawn = &drawn;
-    container_class()->draw(row, cairo);
-    slots_of(row).drawn = nullptr;
-    return FALSE;
+    return container_class()->draw(row, cairo);
 }
 
+// The first walk of a drawing gathers what is drawn.
 void for_all(GtkContainer* row, gboolean internal, GtkCallback callback, gpointer data) {
-    const task_slots& slots = slots_of(row);
-    if (!slots.drawn) return GTK_CONTAINER_CLASS(box_class)->forall(row, internal, callback, data);
+    task_slots& slots = slots_of(row);
+    const GdkRectangle* const drawn = std::exchange(slots.drawn, nullptr);
+    if (!drawn) return box()->forall(row, internal, callback, data);
     for (auto slot = slots.all.rbegin(); slot != slots.all.rend(); ++slot) {  // in the order of a box
         GtkAllocation clip{};
         gtk_widget_get_clip(slot->child, &clip);
-        if (gdk_rectangle_intersect(&clip, slots.drawn, nullptr)) callback(slot->child, data);
+        if (gdk_rectangle_intersect(&clip, drawn, nullptr)) callback(slot->child, data);
     }
 }
 
@@ -201,29 +256,28 @@ void on_changed(GtkWidget* child, GtkWidget* row) {
     gtk_widget_queue_resize_no_redraw(row);
 }
 
-// Each layout of the scroller tells of its size, be it the same.
+// Each layout of the scroller tells of its size, be it the same, and the row may have had its turn in it
+// already.
 void on_scrolled(GtkWidget* row) {
-    const task_slots& slots = slots_of(row);
-    if (sight_of(slots.scroller) != slots.seen) gtk_widget_queue_allocate(row);
-}
-
-// A container of this mode is told when something in it changes its size, and tells nobody else.
-void set_told(GtkWidget* child, bool told) {
-    G_GNUC_BEGIN_IGNORE_DEPRECATIONS
-    gtk_container_set_resize_mode(GTK_CONTAINER(child), told ? GTK_RESIZE_IMMEDIATE : GTK_RESIZE_PARENT);
-    G_GNUC_END_IGNORE_DEPRECATIONS
+    task_slots& slots = slots_of(row);
+    const auto has_moved = [&slots] { return sight_of(slots.scrolled) != slots.seen; };
+    if (has_moved())
+        slots.later.ask([row, has_moved] {
+            if (has_moved()) gtk_widget_queue_allocate(row);
+        });
 }
 
 void remove(GtkContainer* row, GtkWidget* child) {
-    g_signal_handlers_disconnect_by_data(child, row);
-    set_told(child, false);
-    std::erase_if(slots_of(row).all, [child](const task_slot& slot) { return slot.child == child; });
-    GTK_CONTAINER_CLASS(box_class)->remove(row, child);
+    const auto is_it = [child](const task_slot& slot) { return slot.child == child; };
+    if (std::erase_if(slots_of(row).all, is_it) > 0) let_go(GTK_WIDGET(row), child);
+    box()->remove(row, child);
     gtk_widget_queue_resize(GTK_WIDGET(row));
 }
 
 void finalize(GObject* row) {
-    delete static_cast<task_row*>(static_cast<gpointer>(row))->slots;
+    task_slots* const slots = static_cast<task_row*>(static_cast<gpointer>(row))->slots;
+    g_clear_object(&slots->scrolled);
+    delete slots;
     G_OBJECT_CLASS(box_class)->finalize(row);
 }
 
@@ -258,18 +312,20 @@ GType row_type() {
 
 GtkWidget* zo::task_row_new(GtkScrolledWindow* scroller) {
     auto* const row = static_cast<GtkWidget*>(g_object_new(row_type(), "visible", TRUE, nullptr));
-    slots_of(row).scroller = scroller;
-    gtk_container_add(GTK_CONTAINER(scroller), row);
     GtkAdjustment* const scrolled = gtk_scrolled_window_get_hadjustment(scroller);
+    slots_of(row).scrolled = static_cast<GtkAdjustment*>(g_object_ref(scrolled));
+    gtk_container_add(GTK_CONTAINER(scroller), row);
     for (const char* signal : {"value-changed", "notify::page-size"})
         g_signal_connect_object(scrolled, signal, G_CALLBACK(on_scrolled), row, G_CONNECT_SWAPPED);
     return row;
 }
 
 void zo::task_row_add(GtkWidget* row, GtkWidget* child) {
-    slots_of(row).all.push_back({child, {}, {}, true, {}});
-    set_told(child, true);
-    g_signal_connect(child, "check-resize", G_CALLBACK(on_changed), row);
+    if (!is_plain(row)) {
+        slots_of(row).all.push_back({child, {}, {}, true, {}});
+        set_told(child, true);
+        g_signal_connect(child, "check-resize", G_CALLBACK(on_changed), row);
+    }
     // For a visible child that comes GTK computes the styles of all others anew, for one that is shown it
     // does not.
     gtk_widget_hide(child);

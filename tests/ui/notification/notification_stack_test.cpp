@@ -41,6 +41,36 @@ TEST(NotificationStack, ClosingTheMiddleOneClosesTheGap) {
     EXPECT_TRUE(test::comes_to(c, {x, top}));
 }
 
+// Whoever is told of the close, or runs next on the loop, finds the others moved.
+TEST(NotificationStack, ClosesTheGapBeforeAnybodyLooks) {
+    const test::scoped_notification first("1", "one");
+    const test::scoped_notification second("2", "two");
+    const test::scoped_notification third("3", "three");
+    const test::scoped_notification fourth("4", "four");
+    GtkWidget* a = first.show();
+    for (const auto* each : {&second, &third}) each->show();
+    GtkWidget* d = fourth.show();
+    ASSERT_TRUE(test::turn_until([&] { return test::is_on_screen(d); }));
+    const auto place = [d] {
+        int y = 0;
+        gtk_window_get_position(GTK_WINDOW(d), nullptr, &y);
+        return y;
+    };
+    const int height = test::height_of(a) + gap;
+    int told = 0;
+    int next = 0;
+    zo_notification_on_close(second, [&](const zo_notification_ptr&) { told = place(); });
+    zo_notification_destroy(second);
+    zo_system_service_exec([&] { next = place(); }, "test", 1);
+    test::run_tasks();
+    EXPECT_EQ(told, top + 2 * height);
+    EXPECT_EQ(next, told);
+    zo_notification_destroy(third);
+    zo_system_service_exec([&] { next = place(); }, "test", 1);
+    test::run_tasks();
+    EXPECT_EQ(next, top + height);
+}
+
 TEST(NotificationStack, IsInTheOrderOfMaking) {
     const test::scoped_notification first("1");
     const test::scoped_notification second("2");

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The row of tasks beside a plain box with the same children: it looks the same, and does less.
-#include "support/desktop.hpp"
-#include "support/ui.hpp"
+#include "ui/window_manager/shown_row.hpp"
 
 #include <zo_ui/zo_window_manager/task_row_p.hpp>
 
@@ -11,97 +10,11 @@
 
 namespace {
 
-constexpr int width = 600;
-
-GtkWidget* button_in(GtkWidget* padding) { return test::children(padding).front(); }
-
-void retitle(GtkWidget* padding, const std::string& title) {
-    GtkWidget* button = button_in(padding);
-    gtk_button_set_label(GTK_BUTTON(button), title.c_str());
-    gtk_label_set_ellipsize(GTK_LABEL(gtk_bin_get_child(GTK_BIN(button))), PANGO_ELLIPSIZE_END);
-}
-
-GtkWidget* padded_button(int number) {
-    GtkWidget* padding = gtk_box_new(GTK_ORIENTATION_HORIZONTAL, 0);
-    gtk_widget_set_valign(padding, GTK_ALIGN_CENTER);
-    gtk_box_pack_start(GTK_BOX(padding), gtk_button_new(), FALSE, FALSE, 0);
-    retitle(padding, std::string(static_cast<std::size_t>(number % 7 + 4), 'm'));
-    gtk_widget_show_all(padding);
-    return padding;
-}
-
-// One of the two, in a scroller on screen.
-class shown_row {
-  public:
-    using adder = void (*)(GtkWidget*, GtkWidget*);
-
-    shown_row(GtkWidget* (*make)(GtkScrolledWindow*), adder add, GtkTextDirection direction)
-        : window_(gtk_window_new(GTK_WINDOW_POPUP)), add_(add) {
-        GtkWidget* scroller = gtk_scrolled_window_new(nullptr, nullptr);
-        gtk_scrolled_window_set_policy(GTK_SCROLLED_WINDOW(scroller), GTK_POLICY_EXTERNAL, GTK_POLICY_NEVER);
-        gtk_widget_set_size_request(scroller, width, 60);
-        row_ = make(GTK_SCROLLED_WINDOW(scroller));
-        gtk_widget_set_halign(row_, GTK_ALIGN_START);
-        gtk_style_context_add_class(gtk_widget_get_style_context(row_), "edged");
-        gtk_widget_set_direction(row_, direction);
-        gtk_container_add(GTK_CONTAINER(window_), scroller);
-        gtk_widget_show_all(window_);
-        scrolled_ = gtk_scrolled_window_get_hadjustment(GTK_SCROLLED_WINDOW(scroller));
-    }
-    ~shown_row() { gtk_widget_destroy(window_); }
-    shown_row(const shown_row&) = delete;
-    shown_row& operator=(const shown_row&) = delete;
-
-    void fill(int count) {
-        for (int i = 0; i < count; ++i) add_(row_, padded_button(i));
-        draw();
-    }
-    void draw() const { test::draw_again(window_); }
-    void scroll_to(double x) const {
-        gtk_adjustment_set_value(scrolled_, x);
-        draw();
-    }
-    std::vector<GtkWidget*> paddings() const { return test::children(row_); }
-    GtkWidget* row() const { return row_; }
-
-    std::string places() const {
-        std::string text = std::to_string(gtk_widget_get_allocated_width(row_)) + "x" +
-                           std::to_string(gtk_widget_get_allocated_height(row_));
-        for (GtkWidget* padding : paddings()) {
-            GtkAllocation place{};
-            gtk_widget_get_allocation(padding, &place);
-            text += " " + std::to_string(place.x) + "," + std::to_string(place.y) + "+" +
-                    std::to_string(place.width) + "x" + std::to_string(place.height);
-        }
-        return text;
-    }
-
-    std::vector<unsigned char> picture() const {
-        cairo_surface_t* surface = cairo_image_surface_create(CAIRO_FORMAT_ARGB32, width, 60);
-        cairo_t* cairo = cairo_create(surface);
-        gtk_widget_draw(window_, cairo);
-        cairo_destroy(cairo);
-        cairo_surface_flush(surface);
-        const unsigned char* data = cairo_image_surface_get_data(surface);
-        std::vector<unsigned char> bytes(data, data + cairo_image_surface_get_stride(surface) * 60);
-        cairo_surface_destroy(surface);
-        return bytes;
-    }
-
-  private:
-    GtkWidget* window_;
-    GtkWidget* row_ = nullptr;
-    GtkAdjustment* scrolled_ = nullptr;
-    adder add_;
-};
-
-GtkWidget* plain_row(GtkScrolledWindow* scroller) {
-    GtkWidget* box = gtk_box_new(GTK_ORIENTATION_HORIZONTAL, 0);
-    gtk_container_add(GTK_CONTAINER(scroller), box);
-    return box;
-}
-
-void pack(GtkWidget* box, GtkWidget* child) { gtk_box_pack_end(GTK_BOX(box), child, FALSE, FALSE, 0); }
+using test::button_in;
+using test::pack;
+using test::plain_row;
+using test::retitle;
+using test::shown_row;
 
 class ManagerTaskRow : public testing::TestWithParam<GtkTextDirection> {
   protected:
@@ -159,6 +72,75 @@ TEST_P(ManagerTaskRow, FollowsChangesLikeABox) {
     both([](const shown_row& r) { gtk_widget_set_size_request(button_in(r.paddings()[45]), 200, 20); });
     both([](const shown_row& r) { r.scroll_to(700); });
     both([](const shown_row& r) { r.scroll_to(1e6); });
+}
+
+TEST_P(ManagerTaskRow, FollowsWhatIsHiddenAndShown) {
+    shown_row row(zo::task_row_new, zo::task_row_add, GetParam());
+    shown_row box(plain_row, pack, GetParam());
+    for (shown_row* each : {&row, &box}) each->fill(5);
+    const auto both = [&](const std::function<void(GtkWidget*)>& change) {
+        for (shown_row* each : {&row, &box}) {
+            change(each->paddings()[2]);
+            each->draw();
+        }
+        EXPECT_EQ(row.places(), box.places());
+    };
+    both([](GtkWidget* padding) { gtk_widget_hide(padding); });
+    both([](GtkWidget* padding) { retitle(padding, "a title that came while it was hidden"); });
+    both([](GtkWidget* padding) { gtk_widget_show(padding); });
+}
+
+// An application may pack and order children by itself, as in any box.
+TEST_P(ManagerTaskRow, IsABoxForWhatOthersPack) {
+    shown_row row(zo::task_row_new, zo::task_row_add, GetParam());
+    shown_row box(plain_row, pack, GetParam());
+    for (shown_row* each : {&row, &box}) {
+        each->fill(3);
+        GtkWidget* label = gtk_label_new("a label");
+        gtk_box_pack_start(GTK_BOX(each->row()), label, FALSE, FALSE, 0);
+        gtk_widget_show(label);
+        each->draw();
+        each->fill(2);
+    }
+    expect_same(row, box);
+    for (shown_row* each : {&row, &box}) {
+        retitle(each->paddings().back(), "another title");
+        gtk_container_remove(GTK_CONTAINER(each->row()), each->paddings().front());
+        gtk_container_remove(GTK_CONTAINER(each->row()), each->paddings().front());
+        each->draw();
+    }
+    expect_same(row, box);
+}
+
+TEST_P(ManagerTaskRow, FollowsANewOrder) {
+    shown_row row(zo::task_row_new, zo::task_row_add, GetParam());
+    shown_row box(plain_row, pack, GetParam());
+    for (shown_row* each : {&row, &box}) {
+        each->fill(4);
+        gtk_box_reorder_child(GTK_BOX(each->row()), each->paddings().front(), 0);
+        gtk_widget_queue_resize(each->row());
+        each->draw();
+    }
+    expect_same(row, box);
+}
+
+// The scroller grows while the row keeps its size: what comes into sight by that is up to date.
+TEST_P(ManagerTaskRow, SeesMoreWhenTheScrollerGrows) {
+    shown_row row(zo::task_row_new, zo::task_row_add, GetParam());
+    row.fill(60);
+    row.scroll_to(0);
+    const std::vector<GtkWidget*> paddings = row.paddings();
+    GtkWidget* unseen = GetParam() == GTK_TEXT_DIR_LTR ? paddings.back() : paddings.front();
+    GtkButton* button = GTK_BUTTON(button_in(unseen));
+    std::string turned = gtk_button_get_label(button);
+    retitle(unseen, turned);  // another label, as wide as the one before
+    row.draw();
+    row.widen(20);
+    row.draw();
+    row.scroll_to(1e6);
+    GtkAllocation place{};
+    gtk_widget_get_allocation(gtk_bin_get_child(GTK_BIN(button)), &place);
+    EXPECT_GT(place.width, 1);
 }
 
 // What was out of sight is up to date when it comes into sight.
