@@ -88,17 +88,9 @@ double font_size(GtkWidget* label) {
     return size * (dpi > 0 ? dpi : 96) / 72;
 }
 
-bool spaces_letters(GtkWidget* label) {
-    double spacing = 0;
-    gtk_style_context_get(gtk_widget_get_style_context(label), gtk_widget_get_state_flags(label),
-                          "letter-spacing", &spacing, nullptr);
-    return spacing != 0;
-}
-
 // False for what is surely narrow enough: to measure a text takes as long as to show it.
 bool may_be_too_wide(GtkWidget* label, const std::string& content) {
     if (content != gtk_label_get_text(GTK_LABEL(label))) return true;  // markup may say anything of letters
-    if (spaces_letters(label)) return true;
     std::size_t word = 0;
     std::size_t longest = 0;
     for (const char letter : content) {
