@@ -11,8 +11,10 @@
 
 #include <zo_core/zo_object.hpp>
 #include <zo_core/zo_property.hpp>
+#include <zo_core/zo_property_mutex.hpp>
 
 #include <zo_core/zo_diagnostics.hpp>
 #include <zo_core/zo_lang.hpp>
 #include <zo_core/zo_service.hpp>
+#include <zo_core/zo_service_task.hpp>
 #include <zo_core/zo_unique_id.hpp>
