@@ -14,9 +14,9 @@ namespace zo {
 
 // Pointers and wrappers of functions may hold none.
 template <typename T>
-constexpr bool may_hold_no_function = std::is_pointer_v<T>;
+inline constexpr bool may_hold_no_function = std::is_pointer_v<T>;
 template <typename Result, typename... Arguments>
-constexpr bool may_hold_no_function<std::function<Result(Arguments...)>> = true;
+inline constexpr bool may_hold_no_function<std::function<Result(Arguments...)>> = true;
 
 // A callable that can be moved, but not copied. One that holds as much as a handle and a pointer to a member
 // is kept inside: its memory need not be asked for where it is posted and given back where it runs, which
