@@ -25,6 +25,7 @@ inline void pack(GtkWidget* box, GtkWidget* child, bool fill = false) {
 }
 
 inline gboolean go_on(GtkWidget*, GdkEvent*, gpointer) { return FALSE; }
+inline void on_focus_moves(GtkWindow*, GtkWidget*, gpointer) {}
 inline void on_clicked(GtkWidget*, gpointer) {}
 inline void on_title_size(GtkWidget*, GtkAllocation* place, parts* window) {
     window->title_height = place->height;
@@ -58,6 +59,11 @@ inline gboolean on_focus(GtkWidget* window, GdkEvent*, gpointer) {
     return FALSE;
 }
 
+inline void on_screen(GtkWidget* window, GdkScreen*, gpointer) {
+    if (GdkVisual* visual = gdk_screen_get_rgba_visual(gtk_widget_get_screen(window)))
+        gtk_widget_set_visual(window, visual);
+}
+
 inline GtkWidget* window_new(const char* title, const char* name) {
     GtkWidget* window = gtk_window_new(GTK_WINDOW_TOPLEVEL);
     gtk_window_set_type_hint(GTK_WINDOW(window), GDK_WINDOW_TYPE_HINT_DIALOG);
@@ -73,12 +79,13 @@ inline GtkWidget* window_new(const char* title, const char* name) {
     gtk_window_set_decorated(GTK_WINDOW(window), FALSE);
     gtk_window_set_resizable(GTK_WINDOW(window), FALSE);
     gtk_window_set_keep_above(GTK_WINDOW(window), TRUE);
-    if (GdkVisual* visual = gdk_screen_get_rgba_visual(gtk_widget_get_screen(window)))
-        gtk_widget_set_visual(window, visual);
+    on_screen(window, nullptr, nullptr);
     gtk_widget_add_events(window, GDK_BUTTON_PRESS_MASK | GDK_BUTTON_RELEASE_MASK | GDK_FOCUS_CHANGE_MASK);
-    for (const char* signal :
-         {"focus-out-event", "window-state-event", "configure-event", "map-event", "delete-event"})
+    for (const char* signal : {"focus-out-event", "window-state-event", "configure-event", "map-event",
+                               "delete-event", "key-press-event"})
         g_signal_connect(window, signal, G_CALLBACK(go_on), nullptr);
+    g_signal_connect(window, "set-focus", G_CALLBACK(on_focus_moves), nullptr);
+    g_signal_connect(window, "screen-changed", G_CALLBACK(on_screen), nullptr);
     g_signal_connect(window, "focus-in-event", G_CALLBACK(on_focus), nullptr);
     return window;
 }

@@ -62,6 +62,8 @@ class window : public Gtk::Window {
         signal_configure_event().connect([](GdkEventConfigure*) { return false; });
         signal_map_event().connect([](GdkEventAny*) { return false; });
         signal_delete_event().connect([](GdkEventAny*) { return false; });
+        signal_key_press_event().connect([](GdkEventKey*) { return false; });
+        signal_set_focus().connect([](Gtk::Widget*) {});
     }
 
     // The window with the focus has another look.

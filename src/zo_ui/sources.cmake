@@ -12,6 +12,7 @@ zo_library(zo_ui
     zo_ui/platform/linux/withdrawal.cpp
     zo_ui/platform/linux/x_errors.cpp
     zo_ui/toolkit/connect.cpp
+    zo_ui/toolkit/icon_button.cpp
     zo_ui/toolkit/layout_idle.cpp
     zo_ui/toolkit/long_text.cpp
     zo_ui/toolkit/process_state.cpp

@@ -15,6 +15,12 @@ bool zo::has_class(GtkWidget* widget, const char* name) {
     return gtk_style_context_has_class(gtk_widget_get_style_context(widget), name);
 }
 
+void zo::as_square(GtkWidget* widget, int size, const char* size_class, const char* style_class) {
+    add_class(widget, size_class);
+    add_class(widget, style_class);
+    gtk_widget_set_size_request(widget, size, size);
+}
+
 void zo::set_tooltip(GtkWidget* widget, const std::string& markup) {
     gtk_widget_set_tooltip_markup(widget, markup.c_str());
     const std::unique_ptr<char, decltype(&g_free)> text(gtk_widget_get_tooltip_text(widget), g_free);

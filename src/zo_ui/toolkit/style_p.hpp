@@ -12,6 +12,9 @@ void add_class(GtkWidget* widget, const char* name);
 void remove_class(GtkWidget* widget, const char* name);
 bool has_class(GtkWidget* widget, const char* name);
 
+// A widget of `size` by `size` pixels, which `size_class` tells the theme.
+void as_square(GtkWidget* widget, int size, const char* size_class, const char* style_class);
+
 // Sets the tooltip and, for a button that shows only an icon, the same text as the name that assistive
 // programs read.
 void set_tooltip(GtkWidget* widget, const std::string& markup);

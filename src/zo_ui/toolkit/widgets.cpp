@@ -11,9 +11,8 @@ GtkWidget* with_class(GtkWidget* widget, const char* name) {
 }
 
 GtkWidget* square_button(int size, const char* size_class, const std::string& style_class) {
-    GtkWidget* button = with_class(gtk_button_new(), size_class);
-    zo::add_class(button, style_class.c_str());
-    gtk_widget_set_size_request(button, size, size);
+    GtkWidget* button = gtk_button_new();
+    zo::as_square(button, size, size_class, style_class.c_str());
     return button;
 }
 

@@ -78,6 +78,7 @@ class _zo_window : public _zo_object {
     friend struct zo::tool_menu_handlers;
     friend struct zo::drag_handlers;
     using click_handler = std::shared_ptr<zo::listener<void(GtkWidget*)>>;
+    using title_action = void (_zo_window::*)();
 
     // Properties, window_properties.cpp and window_state.cpp.
     void init_properties();
@@ -130,7 +131,7 @@ class _zo_window : public _zo_object {
     void pack_title_label(const char* style_class, const std::string& title);
     void show_title(const std::string& title);
     void pack_title_button(const zo::window_title_row& row);
-    click_handler bind_click(void (_zo_window::*action)());
+    const click_handler& click_handler_of(zo::title_button button);
     void call_back(const char* property);
     void on_exit_clicked();
     void on_hint_clicked();
@@ -153,9 +154,10 @@ class _zo_window : public _zo_object {
     unsigned links_ = 0;                                    // how often it was linked; on the loop
 
     // Set by init(); the title bar's signals call what these hold.
-    std::array<click_handler, zo::title_button_count> title_handlers_;
+    std::array<title_action, zo::title_button_count> title_actions_{};
     std::function<GtkWidget*()> drag_source_;
     std::function<bool(GtkWidget*, GdkEventCrossing*)> tool_menu_left_;
+    std::array<click_handler, zo::title_button_count> title_handlers_;  // of the buttons that it had so far
 
     // Touched only on the loop.
     zo::window_widgets widgets_;

@@ -13,17 +13,9 @@ using pixbuf_ptr = std::unique_ptr<GdkPixbuf, object_unref>;
 
 }  // namespace
 
-// The handlers know the window, not hold it: they are its own. Each takes its handle while it runs.
-_zo_window::click_handler _zo_window::bind_click(void (_zo_window::*action)()) {
-    return std::make_shared<zo::listener<void(GtkWidget*)>>([this, action](GtkWidget*) {
-        const zo_window_ptr self = handle();
-        (this->*action)();
-    });
-}
-
 void _zo_window::init() {
-    const auto bind = [this](zo::title_button button, void (_zo_window::*action)()) {
-        title_handlers_[static_cast<std::size_t>(button)] = bind_click(action);
+    const auto bind = [this](zo::title_button button, title_action action) {
+        title_actions_[static_cast<std::size_t>(button)] = action;
     };
     bind(zo::title_button::exit, &_zo_window::on_exit_clicked);
     bind(zo::title_button::hint, &_zo_window::on_hint_clicked);
@@ -34,6 +26,19 @@ void _zo_window::init() {
     bind(zo::title_button::menu, &_zo_window::on_menu_clicked);
     drag_source_ = [this] { return widgets_.tool_menu ? nullptr : widgets_.window; };
     tool_menu_left_ = [this](GtkWidget*, GdkEventCrossing* event) { return on_tool_menu_left(*event); };
+}
+
+// Most windows have few of the buttons, so a handler is made with its button. It knows the window, not holds
+// it: it is the window's own. It takes the window's handle while it runs.
+const _zo_window::click_handler& _zo_window::click_handler_of(zo::title_button button) {
+    const auto place = static_cast<std::size_t>(button);
+    click_handler& handler = title_handlers_[place];
+    if (!handler)
+        handler = std::make_shared<zo::listener<void(GtkWidget*)>>([this, place](GtkWidget*) {
+            const zo_window_ptr self = handle();
+            if (const title_action action = title_actions_[place]) (this->*action)();
+        });
+    return handler;
 }
 
 void _zo_window::call_back(const char* property) {

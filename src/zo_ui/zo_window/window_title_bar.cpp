@@ -2,11 +2,11 @@
 // Building the built-in title bar.
 #include <zo_ui/zo_window/window_p.hpp>
 
+#include <zo_ui/toolkit/icon_button_p.hpp>
 #include <zo_ui/toolkit/long_text_p.hpp>
 #include <zo_ui/toolkit/style_p.hpp>
 #include <zo_ui/toolkit/trampolines_p.hpp>
 #include <zo_ui/zo_ui_tools.hpp>
-#include <zo_ui/zo_ui_widgets.hpp>
 
 namespace {
 
@@ -75,10 +75,9 @@ void _zo_window::show_title(const std::string& title) {
 }
 
 void _zo_window::pack_title_button(const zo::window_title_row& row) {
-    GtkWidget* button = zo_ui_button16_new(row.style_class);
-    zo::set_tooltip(button, zo_ui_get_translate(row.tooltip_key));
-    const click_handler& handler = title_handlers_[static_cast<std::size_t>(row.button)];
-    g_signal_connect(button, "clicked", G_CALLBACK(zo::trampoline<void(GtkWidget*)>::call), handler.get());
+    GtkWidget* button = zo::icon_button16_new(row.style_class, zo_ui_get_translate(row.tooltip_key));
+    g_signal_connect(button, "clicked", G_CALLBACK(zo::trampoline<void(GtkWidget*)>::call),
+                     click_handler_of(row.button).get());
     const auto pack = row.at_end ? gtk_box_pack_end : gtk_box_pack_start;
     pack(GTK_BOX(widgets_.title_box), button, FALSE, FALSE, 0);
     widgets_.button(row.button) = button;

@@ -75,6 +75,15 @@ TEST(WindowTitle, SaysInTooltipAndNameWhatAButtonDoes) {
     }
 }
 
+TEST(WindowTitle, KeepsTheNameThatTheApplicationGaveAButton) {
+    test::scoped_window window("w");
+    GtkWidget* button = test::find_class(window.open(), "title-close");
+    atk_object_set_name(gtk_widget_get_accessible(button), "Leave");
+    EXPECT_EQ(test::accessible_name(button), "Leave");
+    gtk_widget_set_tooltip_text(button, "Away");
+    EXPECT_EQ(test::accessible_name(button), "Leave");
+}
+
 TEST(WindowTitle, HasTheButtonOfEachFlagAlone) {
     for (const row& wanted : rows) {
         test::scoped_window window("w");
