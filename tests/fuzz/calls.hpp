@@ -7,6 +7,7 @@
 #include <map>
 #include <string>
 #include <tuple>
+#include <utility>
 #include <vector>
 
 namespace fuzz {
@@ -76,8 +77,55 @@ enum class verb {
     indicator_action,
     indicator_destroy,
     run,  // the loop
+    // The codes of what came later stand behind the others', so that older inputs mean what they meant:
+    // windows
+    click_exit,
+    click_hint,
+    click_photo,
+    click_back,
+    click_menu,
+    click_menu_entry,
+    leave_menu,
+    destroy_menu,
+    set_title_flags,
+    set_built_in_title,
+    // managers
+    manager_click_lock,
+    manager_drop_and_new,
+    // the process
+    indicator_choose,
     count
 };
+
+// What a call is made on.
+enum class subject { window, manager, notification, process };
+constexpr subject subject_of(verb what) {
+    if (what < verb::manager_open || (what >= verb::click_exit && what <= verb::set_built_in_title))
+        return subject::window;
+    if (what < verb::notification_show ||
+        (what >= verb::manager_click_lock && what <= verb::manager_drop_and_new))
+        return subject::manager;
+    return what < verb::null_handle ? subject::notification : subject::process;
+}
+
+// A press of something that few windows have: of the first one, from the named one on, that has it.
+constexpr bool looks_further(verb what) { return what >= verb::click_exit && what <= verb::destroy_menu; }
+
+// What a person or the desktop does to a window.
+constexpr bool is_press(verb what) {
+    return (what >= verb::click_close && what < verb::set_callback) || looks_further(what);
+}
+
+enum class title_button { exit, hint, photo, close, minimize, menu, back, count };
+constexpr int title_buttons_count = static_cast<int>(title_button::count);
+using title_flags = std::array<bool, title_buttons_count>;
+constexpr std::pair<verb, title_button> title_presses[] = {
+    {verb::click_exit, title_button::exit},         {verb::click_hint, title_button::hint},
+    {verb::click_photo, title_button::photo},       {verb::click_close, title_button::close},
+    {verb::click_minimize, title_button::minimize}, {verb::click_menu, title_button::menu},
+    {verb::click_back, title_button::back}};
+
+constexpr int indicator_actions = 6;
 
 struct call {
     verb what = verb::run;
@@ -86,7 +134,7 @@ struct call {
     bool elsewhere = false;  // from another thread, which ends before the next call
 };
 
-enum class kind { window, manager, notification };
+enum class kind { window, manager, notification, indicator };
 enum class event {
     open,
     show,
@@ -100,6 +148,13 @@ enum class event {
     pushed,
     action,
     link,
+    exit,
+    hint,
+    back,
+    photo,
+    menu,
+    menu_entry,
+    chosen,
     count
 };
 
@@ -127,12 +182,16 @@ using story = std::vector<step>;
 struct picture {
     struct window {
         bool opened, visible, destroyed, toplevel, mapped, task;
-        int instance, manager, title;
-        std::string label;  // of the title bar; empty without one
+        int instance, title;
+        int manager;          // -1: none, -2: one that the program has forgotten
+        int menu;             // the tool menu: 0 none, 1 hidden, 2 shown
+        std::string label;    // of the title bar; empty without one
+        title_flags buttons;  // which of them are in the title bar
         bool operator==(const window&) const = default;
     };
     struct manager {
         bool opened, visible, destroyed, keep;
+        int locked;  // as its lock button looks; -1 without a panel
         std::vector<int> stack;
         bool operator==(const manager&) const = default;
     };
@@ -144,6 +203,7 @@ struct picture {
     std::array<manager, managers_count> managers;
     std::array<notification, notifications_count> notifications;
     std::vector<std::vector<int>> rows;  // the windows whose buttons stand in a panel, in their order; sorted
+    std::vector<int> items;              // of the indicator's menu
     bool operator==(const picture&) const = default;
 };
 
@@ -155,6 +215,7 @@ event event_of(const call& made, const event (&table)[N]) {
 constexpr event window_events[] = {event::open,         event::show,    event::hide,    event::close,
                                    event::activate,     event::restore, event::destroy, event::close_request,
                                    event::title_change, event::pushed};
+constexpr event title_events[] = {event::exit, event::hint, event::back, event::photo, event::menu};
 constexpr event manager_events[] = {event::open, event::show, event::hide, event::close, event::destroy};
 
 std::string text_of(const story& told);

@@ -14,7 +14,7 @@ void drop(std::vector<int>& list, int w) { list.erase(std::remove(list.begin(), 
 }  // namespace
 
 bool model::make_manager_call(const call& made) {
-    const int m = made.who;
+    const int m = present_managers_[made.who];
     const auto later = [&](void (model::*task)(int)) { post([=, this] { (this->*task)(m); }); };
     switch (made.what) {
         case verb::manager_open:
@@ -37,6 +37,14 @@ bool model::make_manager_call(const call& made) {
             break;
         case verb::manager_keep:
             managers_[m].keep = made.with % 2;
+            post([=, this, keep = managers_[m].keep] { apply_keep(m, keep); });
+            break;
+        case verb::manager_click_lock:
+            return click_lock(m);
+        case verb::manager_drop_and_new:
+            if (made.with % 2) later(&model::manager_close);
+            later(&model::manager_destroy);
+            present_managers_[made.who] = new_manager(made.who);
             break;
         case verb::manager_set_callback:
             managers_[m].answers.insert(event_of(made, manager_events));
@@ -52,7 +60,7 @@ bool model::make_manager_call(const call& made) {
 
 // Sliding moves nothing that the story tells.
 bool model::make_widget_call(const call& made) {
-    manager& it = managers_[made.who];
+    manager& it = managers_[present_managers_[made.who]];
     if (made.what != verb::manager_add_widget && made.what != verb::manager_remove_widget) return true;
     const bool wanted = made.what == verb::manager_add_widget;
     bool& there = it.widgets[static_cast<std::size_t>(made.with % widget_places)];
@@ -61,10 +69,24 @@ bool model::make_widget_call(const call& made) {
     return true;
 }
 
+void model::apply_keep(int m, bool keep) {
+    manager& it = managers_[m];
+    it.kept = keep;
+    if (it.opened) it.locked = keep;
+}
+
+bool model::click_lock(int m) {
+    manager& it = managers_[m];
+    if (!it.opened) return false;
+    it.keep = it.locked = it.kept = !it.kept;
+    return true;
+}
+
 void model::manager_open(int m) {
     manager& it = managers_[m];
     if (it.opened || it.destroyed || it.visible) return;
     it.opened = true;
+    it.locked = it.keep;
     for (const int w : std::vector(it.shown)) give_task(w);
     tell_manager(m, event::open);
 }
@@ -111,7 +133,7 @@ void model::manager_destroy(int m) {
     }
     it.destroyed = true;
     for (const int n : std::set(it.listed)) post([=, this] { notification_show(n); });
-    if (had.count(event::destroy)) answer(kind::manager, m, event::destroy);
+    if (had.count(event::destroy)) answer(kind::manager, it.who, event::destroy);
 }
 
 void model::connect(int m, int w) {

@@ -17,7 +17,10 @@ bool model::make_notification_call(const call& made) {
             post([=, this] { notification_close(n); });
             return true;
         case verb::notification_manager:
-            if (!it.closing) it.manager = made.with % (managers_count + 1) - 1;
+            if (!it.closing) {
+                const int m = made.with % (managers_count + 1) - 1;
+                it.manager = m < 0 ? -1 : present_managers_[m];
+            }
             return true;
         case verb::notification_click_action:
             if (!it.opened) return false;

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "fuzz/calls_model.hpp"
+#include "fuzz/calls_tables.hpp"
 
 #include <utility>
 
@@ -52,13 +53,14 @@ bool model::make_window_call(const call& made) {
             break;
         }
         case verb::join:
-            post_join(w, made.with % managers_count);
+            post_join(w, present_managers_[made.with % managers_count]);
             break;
         case verb::leave:
             post_join(w, -1);
             break;
         default:
-            return made.what < verb::set_callback ? press_window(made) : make_other_window_call(made);
+            if (looks_further(made.what)) return press_some_window(made);
+            return is_press(made.what) ? press_window(made) : make_other_window_call(made);
     }
     return true;
 }
@@ -72,6 +74,24 @@ bool model::make_other_window_call(const call& made) {
         case verb::clear_callback:
             windows_[w].answers.erase(event_of(made, window_events));
             return true;
+        case verb::set_other_callback:
+            if (const auto told = other_event_of(made.with)) {
+                if (made.with % 2)
+                    windows_[w].answers.insert(*told);
+                else
+                    windows_[w].answers.erase(*told);
+            }
+            return true;
+        case verb::set_flag:
+            if (const auto button = button_of_flag(made.with))
+                windows_[w].wanted[static_cast<std::size_t>(*button)] = made.with % 2;
+            return true;
+        case verb::set_title_flags:
+            windows_[w].wanted = title_flags_of(made.with);
+            return true;
+        case verb::set_built_in_title:
+            windows_[w].built_in_title = made.with > 0;
+            return true;
         case verb::add_content:
             return windows_[w].opened;
         case verb::drop_and_new:
@@ -83,46 +103,12 @@ bool model::make_other_window_call(const call& made) {
     }
 }
 
-bool model::press_window(const call& made) {
-    const int w = present_windows_[made.who];
-    window& it = windows_[w];
-    switch (made.what) {
-        case verb::click_close:
-            if (!it.titled) return false;
-            request_close(w);
-            return true;
-        case verb::click_minimize:
-            if (!it.titled) return false;
-            hide(w);
-            return true;
-        case verb::ask_to_close:
-            if (!it.tree) return false;
-            request_close(w);
-            return true;
-        case verb::destroy_toplevel:
-            if (!it.tree) return false;
-            close(w);
-            return true;
-        case verb::click_task:
-            if (!it.task) return false;
-            if (it.visible) {
-                hide(w);
-            } else {
-                show(w);
-                activate(w);
-            }
-            return true;
-        default:  // click_task_close
-            if (it.task) post([=, this] { close(w); });
-            return it.task;
-    }
-}
-
 void model::open(int w) {
     window& it = windows_[w];
     if (it.opened || it.destroyed || it.destroying || it.tree) return;
     it.opened = true;
-    it.titled = !it.popup;
+    it.titled = it.built_in_title && !it.popup;
+    it.buttons = it.wanted;
     const int tree = it.tree = ++trees_;
     tell_window(w, event::open);
     if (still(w, tree) && it.manager >= 0) window_opened(it.manager, w);
@@ -134,13 +120,15 @@ void model::show(int w) {
     it.visible = true;
     const int tree = it.tree;
     tell_window(w, event::show);
-    if (still(w, tree) && it.visible && it.manager >= 0) window_shown(it.manager, w);
+    if (!still(w, tree) || !it.visible) return;
+    it.mapped = it.menu_shown = true;
+    if (it.manager >= 0) window_shown(it.manager, w);
 }
 
 void model::hide(int w) {
     window& it = windows_[w];
     if (!it.opened || it.destroyed || !it.visible) return;
-    it.visible = false;
+    it.visible = it.mapped = it.menu_shown = false;
     tell_window(w, event::hide);
 }
 
@@ -160,8 +148,8 @@ void model::close(int w) {
     window& it = windows_[w];
     if (!it.opened || it.destroyed) return;
     ++it.instance;
-    it.opened = it.visible = it.titled = false;
-    it.tree = 0;
+    it.opened = it.visible = it.titled = it.mapped = false;
+    it.tree = it.menu = 0;
     tell_window(w, event::close);
     if (!it.opened && it.manager >= 0) window_closed(it.manager, w);
 }

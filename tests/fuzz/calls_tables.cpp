@@ -11,6 +11,7 @@ const T& row(const T (&table)[N], int which) {
 struct flag {
     bool (*set)(zo_window_ptr, bool);
     bool (*get)(zo_window_ptr);
+    std::optional<fuzz::title_button> button = std::nullopt;
 };
 constexpr flag flags[] = {
     {zo_window_set_managed_window, zo_window_get_managed_window},
@@ -21,14 +22,23 @@ constexpr flag flags[] = {
     {zo_window_set_resizable, zo_window_get_resizable},
     {zo_window_set_keep_above, zo_window_get_keep_above},
     {zo_window_set_drag_enabled, zo_window_get_drag_enabled},
-    {zo_window_set_enable_title_back, zo_window_get_enable_title_back},
-    {zo_window_set_enable_title_exit, zo_window_get_enable_title_exit},
-    {zo_window_set_enable_title_menu, zo_window_get_enable_title_menu},
-    {zo_window_set_enable_title_hint, zo_window_get_enable_title_hint},
-    {zo_window_set_enable_title_save_to_photo, zo_window_get_enable_title_save_to_photo},
+    {zo_window_set_enable_title_back, zo_window_get_enable_title_back, fuzz::title_button::back},
+    {zo_window_set_enable_title_exit, zo_window_get_enable_title_exit, fuzz::title_button::exit},
+    {zo_window_set_enable_title_menu, zo_window_get_enable_title_menu, fuzz::title_button::menu},
+    {zo_window_set_enable_title_hint, zo_window_get_enable_title_hint, fuzz::title_button::hint},
+    {zo_window_set_enable_title_save_to_photo, zo_window_get_enable_title_save_to_photo,
+     fuzz::title_button::photo},
     {zo_window_set_enable_content_ads, zo_window_get_enable_content_ads},
     {zo_window_set_use_scroll, zo_window_get_use_scroll},
 };
+
+// In the order of title_button.
+constexpr bool (*title_setters[])(zo_window_ptr, bool) = {
+    zo_window_set_enable_title_exit,          zo_window_set_enable_title_hint,
+    zo_window_set_enable_title_save_to_photo, zo_window_set_enable_title_close,
+    zo_window_set_enable_title_minimize,      zo_window_set_enable_title_menu,
+    zo_window_set_enable_title_back};
+static_assert(std::size(title_setters) == fuzz::title_buttons_count);
 
 using null_call = bool (*)();
 bool value = false;
@@ -77,32 +87,21 @@ constexpr null_call null_calls[] = {
     [] { return !zo_window_event_get_code({}) && !zo_window_event_to_object({}); },
 };
 
-void do_nothing(zo_window_ptr) {}
 void do_nothing_with_text(zo_window_ptr, std::string) {}
 
-using other_callback = bool (*)(const zo_window_ptr&, bool there);
+// Those that are told are set as the others of the window are.
+struct other_callback {
+    std::optional<fuzz::event> told;
+    bool (*set)(zo_window_ptr, std::function<void(zo_window_ptr, std::string)>);
+};
 constexpr other_callback other_callbacks[] = {
-    [](const zo_window_ptr& w, bool there) {
-        return zo_window_set_window_go_back_callback(w, there ? do_nothing : nullptr);
-    },
-    [](const zo_window_ptr& w, bool there) {
-        return zo_window_set_window_hint_request_callback(w, there ? do_nothing : nullptr);
-    },
-    [](const zo_window_ptr& w, bool there) {
-        return zo_window_set_window_exit_app_request_callback(w, there ? do_nothing : nullptr);
-    },
-    [](const zo_window_ptr& w, bool there) {
-        return zo_window_set_window_id_change_callback(w, there ? do_nothing_with_text : nullptr);
-    },
-    [](const zo_window_ptr& w, bool there) {
-        return zo_window_set_window_class_change_callback(w, there ? do_nothing_with_text : nullptr);
-    },
-    [](const zo_window_ptr& w, bool) {
-        return zo_window_set_save_to_photo_handler(w, [](const zo_window_ptr&, GdkPixbuf*) {});
-    },
-    [](const zo_window_ptr& w, bool) {
-        return zo_window_set_menu_create_handler(w, [](const zo_window_ptr&, GtkGrid*) {});
-    },
+    {fuzz::event::back, nullptr},
+    {fuzz::event::hint, nullptr},
+    {fuzz::event::exit, nullptr},
+    {std::nullopt, zo_window_set_window_id_change_callback},
+    {std::nullopt, zo_window_set_window_class_change_callback},
+    {fuzz::event::photo, nullptr},
+    {fuzz::event::menu, nullptr},
 };
 
 using setter = bool (*)(const zo_notification_ptr&);
@@ -123,7 +122,26 @@ bool fuzz::set_flag(const zo_window_ptr& window, int which) {
 }
 
 bool fuzz::set_other_callback(const zo_window_ptr& window, int which) {
-    return row(other_callbacks, which / 2)(window, which % 2);
+    const auto set = row(other_callbacks, which / 2).set;
+    return which % 2 ? set(window, do_nothing_with_text) : set(window, nullptr);
+}
+
+std::optional<fuzz::event> fuzz::other_event_of(int which) { return row(other_callbacks, which / 2).told; }
+
+std::optional<fuzz::title_button> fuzz::button_of_flag(int which) { return row(flags, which / 2).button; }
+
+fuzz::title_flags fuzz::title_flags_of(int which) {
+    title_flags wanted{};
+    for (std::size_t button = 0; button < wanted.size(); ++button) wanted[button] = which >> button & 1;
+    return wanted;
+}
+
+bool fuzz::set_title_flags(const zo_window_ptr& window, int which) {
+    const title_flags wanted = title_flags_of(which);
+    bool done = true;
+    for (std::size_t button = 0; button < wanted.size(); ++button)
+        done = title_setters[button](window, wanted[button]) && done;
+    return done;
 }
 
 bool fuzz::set_something(const zo_notification_ptr& notification, int which) {

@@ -59,14 +59,29 @@ constexpr const char* verbs[] = {"open",
                                  "indicator_show",
                                  "indicator_action",
                                  "indicator_destroy",
-                                 "run"};
+                                 "run",
+                                 "click_exit",
+                                 "click_hint",
+                                 "click_photo",
+                                 "click_back",
+                                 "click_menu",
+                                 "click_menu_entry",
+                                 "leave_menu",
+                                 "destroy_menu",
+                                 "set_title_flags",
+                                 "set_built_in_title",
+                                 "manager_click_lock",
+                                 "manager_drop_and_new",
+                                 "indicator_choose"};
 static_assert(std::size(verbs) == static_cast<std::size_t>(fuzz::verb::count));
 
-constexpr const char* events[] = {"open",    "show",          "hide",         "close",  "activate", "restore",
-                                  "destroy", "close_request", "title_change", "pushed", "action",   "link"};
+constexpr const char* events[] = {"open",    "show",    "hide",          "close",        "activate",
+                                  "restore", "destroy", "close_request", "title_change", "pushed",
+                                  "action",  "link",    "exit",          "hint",         "back",
+                                  "photo",   "menu",    "menu_entry",    "chosen"};
 static_assert(std::size(events) == static_cast<std::size_t>(fuzz::event::count));
 
-constexpr const char* kinds[] = {"window", "manager", "notification"};
+constexpr const char* kinds[] = {"window", "manager", "notification", "indicator"};
 
 }  // namespace
 
@@ -85,14 +100,17 @@ std::string fuzz::text_of(const story& told) {
 
 std::string fuzz::text_of(const picture& seen) {
     std::ostringstream text;
-    for (const auto& w : seen.windows)
+    for (const auto& w : seen.windows) {
         text << "window opened " << w.opened << " visible " << w.visible << " destroyed " << w.destroyed
              << " toplevel " << w.toplevel << " mapped " << w.mapped << " task " << w.task << " instance "
-             << w.instance << " manager " << w.manager << " title " << w.title << " label " << w.label
-             << "\n";
+             << w.instance << " manager " << w.manager << " title " << w.title << " menu " << w.menu
+             << " label " << w.label << " buttons ";
+        for (const bool there : w.buttons) text << there;
+        text << "\n";
+    }
     for (const auto& m : seen.managers) {
         text << "manager opened " << m.opened << " visible " << m.visible << " destroyed " << m.destroyed
-             << " keep " << m.keep << " stack";
+             << " keep " << m.keep << " locked " << m.locked << " stack";
         for (const int n : m.stack) text << " " << n;
         text << "\n";
     }
@@ -104,5 +122,8 @@ std::string fuzz::text_of(const picture& seen) {
         for (const int w : row) text << " " << w;
         text << "\n";
     }
+    text << "items";
+    for (const int item : seen.items) text << " " << item;
+    text << "\n";
     return text.str();
 }

@@ -24,11 +24,11 @@ GtkWidget* find(GtkWidget* root, const std::function<bool(GtkWidget*)>& wanted) 
     return nullptr;
 }
 
-bool has_class(GtkWidget* widget, const std::string& name) {
+}  // namespace
+
+bool fuzz::has_class(GtkWidget* widget, const std::string& name) {
     return gtk_style_context_has_class(gtk_widget_get_style_context(widget), name.c_str());
 }
-
-}  // namespace
 
 std::vector<GtkWidget*> fuzz::toplevels(const std::string& style_class) {
     std::vector<GtkWidget*> found;
@@ -49,6 +49,24 @@ GtkWidget* fuzz::find_button(GtkWidget* root, const std::string& name) {
     return find(root, [&](GtkWidget* widget) {
         return GTK_IS_BUTTON(widget) && name == gtk_widget_get_name(widget);
     });
+}
+
+GtkWidget* fuzz::find_toplevel(const std::string& style_class, bool tool_menu) {
+    for (GtkWidget* found : toplevels(style_class))
+        if (has_class(found, "tool-menu") == tool_menu) return found;
+    return nullptr;
+}
+
+std::vector<GtkWidget*> fuzz::menu_items() {
+    std::vector<GtkWidget*> items;
+    GList* all = gtk_window_list_toplevels();
+    for (GList* item = all; item; item = item->next) {
+        GtkWidget* const child = gtk_bin_get_child(GTK_BIN(item->data));
+        if (!child || !GTK_IS_MENU(child)) continue;
+        for (GtkWidget* entry : children(child)) items.push_back(entry);
+    }
+    g_list_free(all);
+    return items;
 }
 
 fuzz::task_buttons fuzz::find_task(const std::string& window_id) {

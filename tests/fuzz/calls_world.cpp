@@ -38,6 +38,8 @@ void world::prepare_window(int w) {
     zo_window_set_class(windows_[w], window_names_[w]);
     for (const event what : window_events)
         if (answers({kind::window, w, what})) set_callback(w, what, true);
+    for (const event what : title_events)
+        if (answers({kind::window, w, what})) set_callback(w, what, true);
 }
 
 void world::prepare_manager(int m) {
@@ -82,10 +84,9 @@ world::~world() {
         for (int place = 0; place < widget_places; ++place) let_widget_go(m, place);
 }
 
-GtkWidget* world::toplevel(int w) const {
-    const std::vector<GtkWidget*> found = toplevels(window_names_[w]);
-    return found.empty() ? nullptr : found.front();
-}
+GtkWidget* world::toplevel(int w) const { return find_toplevel(window_names_[w], false); }
+
+GtkWidget* world::tool_menu(int w) const { return find_toplevel(window_names_[w], true); }
 
 GtkWidget* world::popup(int n) const {
     for (GtkWidget* popup : toplevels("zo-notification"))
@@ -109,8 +110,12 @@ void world::look_at_windows(picture& seen) const {
         it.title = std::atoi(title.c_str());
         GtkWidget* const label = window ? find_class(window, "title-text") : nullptr;
         if (label) it.label = gtk_label_get_text(GTK_LABEL(label));
+        for (std::size_t button = 0; button < it.buttons.size(); ++button)
+            it.buttons[button] = window && find_class(window, title_classes[button]);
+        GtkWidget* const menu = tool_menu(w);
+        it.menu = !menu ? 0 : gtk_widget_get_visible(menu) ? 2 : 1;
         const zo_window_manager_ptr manager = zo_window_get_window_manager(windows_[w]);
-        it.manager = -1;
+        it.manager = manager ? -2 : -1;
         for (int m = 0; m < managers_count; ++m)
             if (manager && manager == managers_[m]) it.manager = m;
     }
@@ -140,6 +145,8 @@ fuzz::picture world::look() const {
         zo_window_manager_is_visible(managers_[m], &it.visible);
         zo_window_manager_is_destroyed(managers_[m], &it.destroyed);
         it.keep = zo_window_manager_get_keep_extended(managers_[m]);
+        GtkWidget* const lock = lock_button(m);
+        it.locked = lock ? has_class(lock, "lock-locked") : -1;
         std::map<unsigned long, GtkWidget*>* stack = nullptr;
         zo_window_manager_get_local_notification_container(managers_[m], &stack);
         for (int n = 0; n < notifications_count; ++n)
@@ -155,5 +162,6 @@ fuzz::picture world::look() const {
         if ((found != nullptr) != it.opened || (found && gtk_widget_get_visible(found)) != it.visible)
             it.opened = !it.opened;  // the flags lie: a picture that no model draws
     }
+    for (GtkWidget* item : menu_items()) seen.items.push_back(std::atoi(gtk_widget_get_name(item)));
     return seen;
 }

@@ -31,16 +31,23 @@ class world {
     bool make_here(const call& made);
     bool make_window_call(const call& made);
     bool make_other_window_call(const call& made);
+    bool press_some_window(const call& made);
     bool press_window(const call& made);
     bool make_manager_call(const call& made);
     bool make_widget_call(const call& made);
     bool make_notification_call(const call& made);
     bool press_notification(const call& made);
+    bool press_lock(int m);
+    bool press_indicator(int which);
+    void fill_menu(int w, GtkGrid* grid);
+    void forget_manager(int m, bool close);
     bool make_process_call(const call& made);
     void let_widget_go(int m, int place);
     void look_at_windows(picture& seen) const;
     std::vector<std::vector<int>> look_at_rows() const;
     GtkWidget* toplevel(int w) const;
+    GtkWidget* tool_menu(int w) const;
+    GtkWidget* lock_button(int m) const;
     GtkWidget* popup(int n) const;
 
     reactions programs_;

@@ -1,43 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "fuzz/calls_tables.hpp"
-#include "fuzz/calls_widgets.hpp"
 #include "fuzz/calls_world.hpp"
 
 #include <thread>
 
 using fuzz::world;
-
-namespace {
-
-bool press(GtkWidget* button) {
-    if (button) gtk_button_clicked(GTK_BUTTON(button));
-    return button;
-}
-
-bool end(GtkWidget* widget) {
-    if (widget) gtk_widget_destroy(widget);
-    return widget;
-}
-
-bool follow_link(GtkWidget* popup) {
-    GtkWidget* const content = popup ? fuzz::find_class(popup, "content-text") : nullptr;
-    gboolean handled = FALSE;
-    if (content) g_signal_emit_by_name(content, "activate-link", "https://a", &handled);
-    return handled;
-}
-
-// What GDK makes of a WM_DELETE_WINDOW.
-bool ask_to_close(GtkWidget* toplevel) {
-    if (!toplevel) return false;
-    gtk_widget_realize(toplevel);
-    GdkEvent* event = gdk_event_new(GDK_DELETE);
-    event->any.window = GDK_WINDOW(g_object_ref(gtk_widget_get_window(toplevel)));
-    gtk_main_do_event(event);
-    gdk_event_free(event);
-    return true;
-}
-
-}  // namespace
 
 bool world::make(const call& made) {
     if (!made.elsewhere) return make_here(made);
@@ -51,10 +18,16 @@ bool world::make_here(const call& made) {
         while (g_main_context_pending(nullptr)) g_main_context_iteration(nullptr, FALSE);
         return true;
     }
-    if (made.what < verb::manager_open) return make_window_call(made);
-    if (made.what < verb::notification_show) return make_manager_call(made);
-    if (made.what < verb::null_handle) return make_notification_call(made);
-    return make_process_call(made);
+    switch (subject_of(made.what)) {
+        case subject::window:
+            return make_window_call(made);
+        case subject::manager:
+            return make_manager_call(made);
+        case subject::notification:
+            return make_notification_call(made);
+        default:
+            return make_process_call(made);
+    }
 }
 
 bool world::make_window_call(const call& made) {
@@ -91,26 +64,9 @@ bool world::make_window_call(const call& made) {
         case verb::leave:
             return zo_window_set_window_manager(window, {});
         default:
-            return made.what < verb::set_callback ? press_window(made) : make_other_window_call(made);
+            if (looks_further(made.what)) return press_some_window(made);
+            return is_press(made.what) ? press_window(made) : make_other_window_call(made);
     }
-}
-
-bool world::press_window(const call& made) {
-    GtkWidget* const window = toplevel(made.who);
-    switch (made.what) {
-        case verb::click_close:
-            return window && press(find_class(window, "title-close"));
-        case verb::click_minimize:
-            return window && press(find_class(window, "title-minimize"));
-        case verb::ask_to_close:
-            return ask_to_close(window);
-        case verb::destroy_toplevel:
-            return end(window);
-        default:
-            break;
-    }
-    const task_buttons found = find_task(window_names_[made.who]);
-    return press(made.what == verb::click_task ? found.task : found.close);
 }
 
 bool world::make_manager_call(const call& made) {
@@ -128,6 +84,11 @@ bool world::make_manager_call(const call& made) {
             return zo_window_manager_destroy(manager);
         case verb::manager_destroy_for:
             return zo_window_manager_destroy(manager, "fuzz", made.with);
+        case verb::manager_click_lock:
+            return press_lock(made.who);
+        case verb::manager_drop_and_new:
+            forget_manager(made.who, made.with % 2);
+            return true;
         case verb::manager_keep:
             return zo_window_manager_set_keep_extended(manager, made.with % 2);
         case verb::manager_set_callback:
@@ -159,13 +120,4 @@ bool world::make_notification_call(const call& made) {
         default:
             return press_notification(made);
     }
-}
-
-bool world::press_notification(const call& made) {
-    GtkWidget* const found = popup(made.who);
-    if (made.what == verb::notification_destroy_popup) return end(found);
-    if (made.what == verb::notification_click_link) return follow_link(found);
-    if (!found) return false;
-    return press(made.what == verb::notification_click_action ? find_button(found, "act")
-                                                              : find_class(found, "title-close"));
 }

@@ -16,7 +16,10 @@ constexpr std::pair<fuzz::event, window_setter> window_setters[] = {
     {fuzz::event::close, zo_window_set_window_close_callback},
     {fuzz::event::activate, zo_window_set_window_activate_callback},
     {fuzz::event::restore, zo_window_set_window_restore_callback},
-    {fuzz::event::destroy, zo_window_set_window_destroy_callback}};
+    {fuzz::event::destroy, zo_window_set_window_destroy_callback},
+    {fuzz::event::exit, zo_window_set_window_exit_app_request_callback},
+    {fuzz::event::hint, zo_window_set_window_hint_request_callback},
+    {fuzz::event::back, zo_window_set_window_go_back_callback}};
 
 using manager_setter = bool (*)(zo_window_manager_ptr, std::function<void(zo_window_manager_ptr)>);
 constexpr std::pair<fuzz::event, manager_setter> manager_setters[] = {
@@ -50,8 +53,30 @@ bool world::set_callback(int w, event what, bool there) {
     if (what == event::title_change)
         return there ? zo_window_set_window_title_text_change_callback(window, told)
                      : zo_window_set_window_title_text_change_callback(window, nullptr);
+    if (what == event::photo) {
+        const auto take = [this, w](const zo_window_ptr&, GdkPixbuf* photo) {
+            fuzz::check(GDK_IS_PIXBUF(photo), [] { return "no photo"; });
+            tell(kind::window, w, event::photo);
+        };
+        return there ? zo_window_set_save_to_photo_handler(window, take)
+                     : zo_window_set_save_to_photo_handler(window, nullptr);
+    }
+    if (what == event::menu) {
+        const auto fill = [this, w](const zo_window_ptr&, GtkGrid* grid) { fill_menu(w, grid); };
+        return there ? zo_window_set_menu_create_handler(window, fill)
+                     : zo_window_set_menu_create_handler(window, nullptr);
+    }
     return there ? zo_window_set_window_event_callback(window, told)
                  : zo_window_set_window_event_callback(window, nullptr);
+}
+
+void world::fill_menu(int w, GtkGrid* grid) {
+    GtkWidget* const entry = gtk_button_new_with_label("Entry");
+    gtk_grid_attach(grid, entry, 0, 0, 1, 1);
+    zo_ui_connect_button_click_signal(entry, [this, w](GtkWidget*) {
+        if (answers({kind::window, w, event::menu_entry})) tell(kind::window, w, event::menu_entry);
+    });
+    tell(kind::window, w, event::menu);
 }
 
 bool world::set_manager_callback(int m, event what, bool there) {
@@ -68,7 +93,13 @@ bool world::make_other_window_call(const call& made) {
         case verb::clear_callback:
             return set_callback(made.who, event_of(made, window_events), made.what == verb::set_callback);
         case verb::set_other_callback:
+            if (const auto told = other_event_of(made.with))
+                return set_callback(made.who, *told, made.with % 2);
             return set_other_callback(window, made.with);
+        case verb::set_title_flags:
+            return set_title_flags(window, made.with);
+        case verb::set_built_in_title:
+            return zo_window_set_use_built_in_title(window, made.with > 0);
         case verb::set_flag:
             return set_flag(window, made.with);
         case verb::add_content: {
@@ -84,6 +115,14 @@ bool world::make_other_window_call(const call& made) {
             prepare_window(made.who);
             return true;
     }
+}
+
+// Its windows stay joined to it, and its panel on screen unless it is closed, until its tasks have run.
+void world::forget_manager(int m, bool close) {
+    if (close) zo_window_manager_close(managers_[m]);
+    zo_window_manager_destroy(managers_[m]);
+    for (int place = 0; place < widget_places; ++place) let_widget_go(m, place);
+    prepare_manager(m);
 }
 
 void world::let_widget_go(int m, int place) {
@@ -129,8 +168,12 @@ bool world::make_process_call(const call& made) {
         indicator_.reset();
         return true;
     }
+    if (made.what == verb::indicator_choose) return press_indicator(made.with);
     if (!indicator_) indicator_ = zo_appindicator_new("fuzz", "Fuzz", "mail-unread");
     if (made.what == verb::indicator_show) return zo_appindicator_show(indicator_);
-    return zo_appindicator_add_action(indicator_, std::to_string(made.with), "Action",
-                                      [](const zo_appindicator_ptr&, std::string&) {});
+    const auto chosen = [this, action = made.with](const zo_appindicator_ptr&, const std::string& name) {
+        fuzz::check(name == std::to_string(action), [&] { return "chosen as " + name; });
+        if (answers({kind::indicator, action, event::chosen})) tell(kind::indicator, action, event::chosen);
+    };
+    return zo_appindicator_add_action(indicator_, std::to_string(made.with), "Action", chosen);
 }
