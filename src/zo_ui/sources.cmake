@@ -23,6 +23,7 @@ zo_library(zo_ui
     zo_ui/toolkit/tools.cpp
     zo_ui/toolkit/widgets.cpp
     zo_ui/zo_appindicator/appindicator.cpp
+    zo_ui/zo_appindicator/appindicator_hearing.cpp
     zo_ui/zo_appindicator/appindicator_menu.cpp
     zo_ui/zo_appindicator/appindicator_place.cpp
     zo_ui/zo_notification/notification.cpp

@@ -3,20 +3,14 @@
 
 #include <zo_ui/toolkit/style_p.hpp>
 
-#include <memory>
-
 namespace {
-
-using text_ptr = std::unique_ptr<char, decltype(&g_free)>;
 
 GtkWidgetClass* button_class = nullptr;
 
 // A name that somebody gave it stays.
 AtkObject* get_accessible(GtkWidget* button) {
     AtkObject* const accessible = button_class->get_accessible(button);
-    if (accessible->name) return accessible;
-    if (const text_ptr tooltip(gtk_widget_get_tooltip_text(button), g_free); tooltip)
-        atk_object_set_name(accessible, tooltip.get());
+    if (!accessible->name) zo::name_by_tooltip(accessible, button);
     return accessible;
 }
 

@@ -23,8 +23,12 @@ void zo::as_square(GtkWidget* widget, int size, const char* size_class, const ch
 
 void zo::set_tooltip(GtkWidget* widget, const std::string& markup) {
     gtk_widget_set_tooltip_markup(widget, markup.c_str());
+    name_by_tooltip(gtk_widget_get_accessible(widget), widget);
+}
+
+void zo::name_by_tooltip(AtkObject* accessible, GtkWidget* widget) {
     const std::unique_ptr<char, decltype(&g_free)> text(gtk_widget_get_tooltip_text(widget), g_free);
-    atk_object_set_name(gtk_widget_get_accessible(widget), text ? text.get() : "");
+    atk_object_set_name(accessible, text ? text.get() : "");
 }
 
 std::string zo::readable(const std::string& text) {

@@ -19,6 +19,9 @@ void as_square(GtkWidget* widget, int size, const char* size_class, const char* 
 // programs read.
 void set_tooltip(GtkWidget* widget, const std::string& markup);
 
+// Gives what assistive programs read of `widget` the widget's tooltip as its name.
+void name_by_tooltip(AtkObject* accessible, GtkWidget* widget);
+
 // Toolkit and buses refuse a text that is not UTF-8 altogether: this is what can be read of it.
 std::string readable(const std::string& text);
 

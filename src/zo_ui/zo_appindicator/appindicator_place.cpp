@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include <zo_ui/zo_appindicator/appindicator_place_p.hpp>
 
-#include <glib-unix.h>
+#include <zo_ui/zo_appindicator/appindicator_hearing_p.hpp>
+
 #include <chrono>
 #include <condition_variable>
 #include <map>
 #include <memory>
 #include <mutex>
+#include <optional>
 #include <thread>
 #include <utility>
 #include <vector>
@@ -85,66 +87,6 @@ void ask_bus() {
         take_connection(std::exchange(answer->connection, nullptr));
 }
 
-// Where icons hear of the bus. The indicator library asks for it twice, for the tray's host and for itself,
-// and is lost for good when it finds the host before its own answer has come. Threads answer, in any order:
-// so it hears of both in a context apart, which the loop turns only when all answers lie there.
-struct hearing {
-    GMainContext* context = nullptr;
-    guint last_answer = 0;  // the context's number of it, counted up; 0 when there is nothing to wait for
-};
-
-constexpr guint questions = 2;
-
-hearing& ear() {
-    static hearing
-        instance;  // its context lives as long as the process: what icons asked may be answered later
-    return instance;
-}
-
-// Looks what lies in the context, and leaves it there. Returns the descriptor that tells when more comes.
-int look_into(GMainContext* context) {
-    gint priority = 0;
-    gint timeout = 0;
-    GPollFD descriptor{};
-    g_main_context_acquire(context);
-    g_main_context_prepare(context, &priority);
-    g_main_context_query(context, G_MAXINT, &timeout, &descriptor, 1);
-    g_poll(&descriptor, 1, 0);
-    g_main_context_check(context, G_MAXINT, &descriptor, 1);
-    g_main_context_release(context);
-    return descriptor.fd;
-}
-
-gboolean on_heard(gint, GIOCondition, gpointer) {
-    GMainContext* const context = ear().context;
-    look_into(context);
-    if (ear().last_answer && g_main_context_find_source_by_id(context, ear().last_answer))
-        ear().last_answer = 0;
-    while (!ear().last_answer && g_main_context_iteration(context, FALSE)) {
-    }
-    return G_SOURCE_CONTINUE;
-}
-
-// What is attached to a context is numbered.
-guint newest_number(GMainContext* context) {
-    GSource* const source = g_idle_source_new();
-    const guint number = g_source_attach(source, context);
-    g_source_destroy(source);
-    g_source_unref(source);
-    return number;
-}
-
-// The context for what an icon asks while it is made.
-GMainContext* expect_answers() {
-    if (!ear().context) {
-        ear().context = g_main_context_new_with_flags(G_MAIN_CONTEXT_FLAGS_OWNERLESS_POLLING);
-        g_unix_fd_add(look_into(ear().context), G_IO_IN, on_heard, nullptr);
-    }
-    if (!ear().last_answer) ear().last_answer = newest_number(ear().context);
-    ear().last_answer += questions;
-    return ear().context;
-}
-
 void on_icon_left(gpointer data, GObject*) {
     const std::unique_ptr<std::string> name(static_cast<std::string*>(data));
     const auto place = all().leaving.find(*name);
@@ -170,11 +112,10 @@ void zo::leave_unused_bus() {
 }
 
 AppIndicator* zo::new_icon(const std::string& name, const std::string& icon) {
-    GMainContext* const apart = all().connection ? expect_answers() : nullptr;
-    if (apart) g_main_context_push_thread_default(apart);
+    std::optional<hearing> both_answers;
+    if (all().connection) both_answers.emplace();
     AppIndicator* const made =
         app_indicator_new(name.c_str(), icon.c_str(), APP_INDICATOR_CATEGORY_APPLICATION_STATUS);
-    if (apart) g_main_context_pop_thread_default(apart);
     ++all().living;
     g_object_weak_ref(G_OBJECT(made), on_icon_left, new std::string(name));
     return made;
