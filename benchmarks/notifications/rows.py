@@ -1,8 +1,12 @@
 # SPDX-License-Identifier: MIT
+from pathlib import Path
+
 from table import Mark, Metric, Row
 
 SIZES = [10, 100, 500, 1000]
 OPENBOX = ["-w", "openbox"]
+# Among the libraries of the machine's architecture.
+NOTIFYD = next(Path("/usr/lib").glob("*/xfce4/notifyd/xfce4-notifyd"), "xfce4-notifyd")
 
 
 def contenders(how):
@@ -43,7 +47,7 @@ when one is hidden. They are all that grows; ours and the floor send the same.
     Row("notifications-daemons", "Show and close 10 and 100 notifications, beside notification daemons",
         contenders("all") | {
             "dunst": "{bin}/daemon_notifications {size} dunst",
-            "xfce4-notifyd": "{bin}/daemon_notifications {size} /usr/lib/x86_64-linux-gnu/xfce4/notifyd/xfce4-notifyd"},
+            "xfce4-notifyd": f"{{bin}}/daemon_notifications {{size}} {NOTIFYD}"},
         [Metric("show_cpu_us", "us each", [Mark("dunst", at_most=1), Mark("xfce4-notifyd", at_most=1)]),
          Metric("close_cpu_us", "us each", [Mark("dunst", at_most=1), Mark("xfce4-notifyd", at_most=1)])],
         """

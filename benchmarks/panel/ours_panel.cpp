@@ -1,22 +1,12 @@
 // SPDX-License-Identifier: MIT
 // ours_panel WINDOWS: the panel with a button for each window.
 #include <desktop/desktop.hpp>
-#include <panel/titles.hpp>
-
-#include <zo_ui/zo_ui.hpp>
+#include <panel/ours_window.hpp>
 
 #include <cstdlib>
 #include <vector>
 
 namespace {
-
-zo_window_ptr joined_window(int number, const zo_window_manager_ptr& manager) {
-    const zo_window_ptr window = zo_window_new("window" + std::to_string(number));
-    zo_window_set_title(window, bench::title(number));
-    zo_window_set_window_manager(window, manager);
-    zo_window_open(window);
-    return window;
-}
 
 GtkWidget* shown_panel(const zo_window_manager_ptr& manager) {
     zo_window_manager_open(manager);
@@ -41,7 +31,7 @@ void retitle(const std::vector<zo_window_ptr>& windows, GtkWidget* panel) {
 void join(std::vector<zo_window_ptr>& windows, const zo_window_manager_ptr& manager, GtkWidget* panel) {
     std::vector<zo_window_ptr> more;
     for (int i = 0; i < bench::joining; ++i)
-        more.push_back(joined_window(static_cast<int>(windows.size()) + i, {}));
+        more.push_back(bench::joined_window(static_cast<int>(windows.size()) + i, {}));
     bench::turn();
     const bench::step step("join", bench::joining);
     for (const zo_window_ptr& window : more) zo_window_set_window_manager(window, manager);
@@ -59,7 +49,7 @@ int main(int, char** arguments) {
     const zo_window_manager_ptr manager = zo_window_manager_new("");
     zo_window_manager_set_keep_extended(manager, true);
     std::vector<zo_window_ptr> windows;
-    for (int i = 0; i < count; ++i) windows.push_back(joined_window(i, manager));
+    for (int i = 0; i < count; ++i) windows.push_back(bench::joined_window(i, manager));
     bench::turn();
     GtkWidget* panel = nullptr;
     {

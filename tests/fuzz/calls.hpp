@@ -134,6 +134,17 @@ struct call {
     bool elsewhere = false;  // from another thread, which ends before the next call
 };
 
+// The call on the first window, from the named one on, that can make it.
+template <typename Make>
+bool first_window(const call& made, Make make) {
+    call one = made;
+    for (int w = 0; w < windows_count; ++w) {
+        one.who = (made.who + w) % windows_count;
+        if (make(one)) return true;
+    }
+    return false;
+}
+
 enum class kind { window, manager, notification, indicator };
 enum class event {
     open,

@@ -14,12 +14,7 @@ fuzz::title_flags model::default_title_flags() {
 }
 
 bool model::press_some_window(const call& made) {
-    call one = made;
-    for (int w = 0; w < windows_count; ++w) {
-        one.who = (made.who + w) % windows_count;
-        if (press_window(one)) return true;
-    }
-    return false;
+    return first_window(made, [this](const call& one) { return press_window(one); });
 }
 
 bool model::press_window(const call& made) {

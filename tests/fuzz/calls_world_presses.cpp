@@ -56,12 +56,7 @@ bool ask_to_close(GtkWidget* toplevel) {
 }  // namespace
 
 bool world::press_some_window(const call& made) {
-    call one = made;
-    for (int w = 0; w < windows_count; ++w) {
-        one.who = (made.who + w) % windows_count;
-        if (press_window(one)) return true;
-    }
-    return false;
+    return first_window(made, [this](const call& one) { return press_window(one); });
 }
 
 bool world::press_window(const call& made) {
