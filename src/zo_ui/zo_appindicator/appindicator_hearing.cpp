@@ -2,21 +2,25 @@
 #include <zo_ui/zo_appindicator/appindicator_hearing_p.hpp>
 
 #include <glib-unix.h>
+#include <algorithm>
+#include <limits>
+#include <list>
+
+// Stays for the next icon: what was asked for one that has gone may be answered still, and what nobody hears
+// keeps the connection.
+struct zo::ear {
+    GMainContext* context = nullptr;  // owned
+    guint last_answer = 0;            // the context's number of it; 0 when nothing is waited for
+    gint64 free_since = in_use;       // monotonic, in microseconds
+
+    static constexpr gint64 in_use = std::numeric_limits<gint64>::max();
+};
 
 namespace {
 
-constexpr guint questions = 2;
-
-struct ear {
-    GMainContext* context = nullptr;
-    guint last_answer = 0;  // the context's number of it; 0 when there is nothing to wait for
-};
-
-// Its context lives as long as the process: what icons asked may be answered when they are gone.
-ear& the_ear() {
-    static ear instance;
-    return instance;
-}
+constexpr guint questions = 3;
+constexpr gint64 rest = G_USEC_PER_SEC;  // late answers are mostly in by then
+constexpr std::size_t most_ears = 500;   // each has a descriptor, and a process mostly 1024
 
 // Looks what lies in the context, and leaves it there. Returns the descriptor that tells when more comes.
 int look_into(GMainContext* context) {
@@ -32,11 +36,12 @@ int look_into(GMainContext* context) {
     return descriptor.fd;
 }
 
-gboolean on_heard(gint, GIOCondition, gpointer) {
-    auto& [context, last_answer] = the_ear();
-    look_into(context);
-    if (last_answer && g_main_context_find_source_by_id(context, last_answer)) last_answer = 0;
-    while (!last_answer && g_main_context_iteration(context, FALSE)) {
+gboolean on_heard(gint, GIOCondition, gpointer data) {
+    auto& ear = *static_cast<zo::ear*>(data);
+    look_into(ear.context);
+    if (ear.last_answer && g_main_context_find_source_by_id(ear.context, ear.last_answer))
+        ear.last_answer = 0;
+    while (!ear.last_answer && g_main_context_iteration(ear.context, FALSE)) {
     }
     return G_SOURCE_CONTINUE;
 }
@@ -50,19 +55,49 @@ guint newest_number(GMainContext* context) {
     return number;
 }
 
-GMainContext* expect_answers() {
-    auto& [context, last_answer] = the_ear();
-    if (!context) {
-        context = g_main_context_new_with_flags(G_MAIN_CONTEXT_FLAGS_OWNERLESS_POLLING);
-        g_unix_fd_add(look_into(context), G_IO_IN, on_heard, nullptr);
-    }
-    if (!last_answer) last_answer = newest_number(context);
-    last_answer += questions;
-    return context;
+std::list<zo::ear>& ears() {
+    static auto& instance = *new std::list<zo::ear>;  // never destroyed: the contexts may be turned still
+    return instance;
 }
+
+zo::ear* new_ear() {
+    zo::ear& ear = ears().emplace_back();
+    ear.context = g_main_context_new_with_flags(G_MAIN_CONTEXT_FLAGS_OWNERLESS_POLLING);
+    g_unix_fd_add(look_into(ear.context), G_IO_IN, on_heard, &ear);
+    return &ear;
+}
+
+// The one that has been free for longest, once it has rested; without any of these a new one.
+zo::ear* find_ear() {
+    const auto longest = std::min_element(
+        ears().begin(), ears().end(),
+        [](const auto& left, const auto& right) { return left.free_since < right.free_since; });
+    const bool any = longest != ears().end() && longest->free_since != zo::ear::in_use;
+    const bool full = ears().size() == most_ears;
+    if (any && (full || g_get_monotonic_time() - longest->free_since > rest)) return &*longest;
+    return full ? nullptr : new_ear();
+}
+
+zo::ear* take_ear() {
+    zo::ear* const ear = find_ear();
+    if (!ear) return nullptr;
+    ear->free_since = zo::ear::in_use;
+    ear->last_answer = newest_number(ear->context) + questions;
+    return ear;
+}
+
+void on_icon_gone(gpointer ear, GObject*) { static_cast<zo::ear*>(ear)->free_since = g_get_monotonic_time(); }
 
 }  // namespace
 
-zo::hearing::hearing() : context_(expect_answers()) { g_main_context_push_thread_default(context_); }
+zo::hearing::hearing() : ear_(take_ear()) {
+    if (ear_) g_main_context_push_thread_default(ear_->context);
+}
 
-zo::hearing::~hearing() { g_main_context_pop_thread_default(context_); }
+zo::hearing::~hearing() {
+    if (ear_) g_main_context_pop_thread_default(ear_->context);
+}
+
+void zo::hearing::belongs_to(GObject* icon) {
+    if (ear_) g_object_weak_ref(icon, on_icon_gone, ear_);
+}

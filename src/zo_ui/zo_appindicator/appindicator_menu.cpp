@@ -103,13 +103,12 @@ void _zo_appindicator::show_after_waiting(const zo::icon_texts& texts) {
 
 void _zo_appindicator::show_icon(indicator_data& iw, const zo::icon_texts& texts) {
     const auto& [icon, name, title, label] = texts;
-    iw.indicator = zo::new_icon(name, icon);
+    if (!iw.menu) iw.menu = new_menu(iw);
+    iw.indicator = zo::new_icon(name, icon, GTK_MENU(iw.menu));
     app_indicator_set_attention_icon(iw.indicator, icon.c_str());
     if (!title.empty()) app_indicator_set_title(iw.indicator, title.c_str());
     app_indicator_set_status(iw.indicator, APP_INDICATOR_STATUS_ACTIVE);
     if (!label.empty()) app_indicator_set_label(iw.indicator, label.c_str(), "guide");
-    if (!iw.menu) iw.menu = new_menu(iw);
-    app_indicator_set_menu(iw.indicator, GTK_MENU(iw.menu));
 }
 
 // Every item lies in the same cell (test "EveryItemIsAttachedToTheSameCell"): hosts show the items in the

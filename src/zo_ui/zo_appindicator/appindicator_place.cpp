@@ -111,11 +111,13 @@ void zo::leave_unused_bus() {
     g_clear_object(&all().connection);
 }
 
-AppIndicator* zo::new_icon(const std::string& name, const std::string& icon) {
-    std::optional<hearing> both_answers;
-    if (all().connection) both_answers.emplace();
+AppIndicator* zo::new_icon(const std::string& name, const std::string& icon, GtkMenu* menu) {
+    std::optional<hearing> hears;
+    if (all().connection) hears.emplace();
     AppIndicator* const made =
         app_indicator_new(name.c_str(), icon.c_str(), APP_INDICATOR_CATEGORY_APPLICATION_STATUS);
+    app_indicator_set_menu(made, menu);
+    if (hears) hears->belongs_to(G_OBJECT(made));
     ++all().living;
     g_object_weak_ref(G_OBJECT(made), on_icon_left, new std::string(name));
     return made;

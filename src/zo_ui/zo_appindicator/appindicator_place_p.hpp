@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 // The icon itself, and when one can be made. Only on the loop.
 //
-// The indicator library asks the session bus two things at once, and on a connection that is still being made
-// the answers may come in an order that it does not survive: then the icon never appears, and never goes. So
-// the connection is made first, answers for itself first, and is held while there are icons; not longer,
-// because a host knows by its end that they have gone. And an icon that was taken away lives on until the bus
-// has answered what was asked for it; meanwhile its place on the bus is taken, and a new icon of the same
-// name would not appear.
+// The indicator library asks for the session bus several times at once, and on a connection that is still
+// being made the answers may come in an order that it does not survive: then the icon never appears, and
+// never goes. So the connection is made first, answers for itself first, and is held while there are icons;
+// not longer, because a host knows by its end that they have gone. And an icon that was taken away lives on
+// until the bus has answered what was asked for it; meanwhile its place on the bus, and its menu's, is taken,
+// and a new icon of the same name would not appear.
 #pragma once
 
 #include <libayatana-appindicator/app-indicator.h>
@@ -23,8 +23,8 @@ bool must_wait_for_place(const std::string& name, std::function<bool()> then);
 // For who got a place and makes no icon: without any icon the connection is not held.
 void leave_unused_bus();
 
-// The new icon is the caller's until let_icon_go.
-AppIndicator* new_icon(const std::string& name, const std::string& icon);
+// The new icon is the caller's until let_icon_go; it keeps a reference to its menu.
+AppIndicator* new_icon(const std::string& name, const std::string& icon, GtkMenu* menu);
 
 // Hides the icon, for hosts that do not see it go, and gives it up.
 void let_icon_go(AppIndicator* icon);

@@ -2,6 +2,8 @@
 // What a shown indicator tells the desktop's tray.
 #include "ui/appindicator/indicator.hpp"
 
+#include <list>
+
 namespace {
 
 class AppindicatorShow : public test::with_tray_host {
@@ -130,6 +132,13 @@ TEST_F(AppindicatorShow, SeveralAreSeveral) {
     second.show();
     EXPECT_EQ(test::item_text(test::wait_for_tray_item("first"), "Title"), "First");
     EXPECT_EQ(test::item_text(test::wait_for_tray_item("second"), "Title"), "Second");
+}
+
+TEST_F(AppindicatorShow, MoreThanATrayHasRoomFor) {
+    constexpr std::size_t count = 120;
+    std::list<test::scoped_indicator> many;
+    while (many.size() < count) many.emplace_back("many-" + std::to_string(many.size())).show();
+    EXPECT_TRUE(test::turn_until([] { return test::tray_items().size() == count; }));
 }
 
 }  // namespace
