@@ -92,9 +92,9 @@ struct seen_events {
 
 // Handlers that the application connects later still run, as does GTK's own.
 TEST(WindowSignals, EventsGoOnToOthers) {
+    seen_events seen;
     test::scoped_window window("w");
     GtkWidget* toplevel = window.show();
-    seen_events seen;
     g_signal_connect(toplevel, "focus-in-event", G_CALLBACK(seen_events::note), &seen);
     g_signal_connect(toplevel, "focus-out-event", G_CALLBACK(seen_events::note), &seen);
     g_signal_connect(toplevel, "window-state-event", G_CALLBACK(seen_events::note), &seen);
