@@ -144,6 +144,7 @@ TEST_F(WindowDrag, LetsThePressGoOn) {
         gdk_event_free(event);
     }
     EXPECT_EQ(seen, 3);
+    g_signal_handlers_disconnect_by_data(box, &seen);
 }
 
 }  // namespace

@@ -83,11 +83,11 @@ class WindowMaximise : public testing::Test {
         return std::count(states_.begin(), states_.end(), std::pair(changed, now)) > 0;
     }
 
+    std::vector<std::pair<int, int>> states_;
     test::scoped_window window_{"w"};
     GtkWidget* toplevel_ = nullptr;
     GtkWidget* child_ = nullptr;
     rectangle before_;
-    std::vector<std::pair<int, int>> states_;
 };
 
 TEST_F(WindowMaximise, AWindowKeptAboveComesBackCentredWithItsOldSize) {
