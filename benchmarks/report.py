@@ -45,15 +45,15 @@ def compared(row, rounds, metric, size, beside, marks):
     return Line((row.title, str(size), metric.name, with_unit, *shown, said, verdict), reached)
 
 
-def lines_of(row, metrics, rounds, counts=False):
+def lines_of(row, rounds):
     lines = []
-    for metric in metrics:
+    for metric in row.metrics:
         for size in row.sizes:
             if not samples(rounds, size, "ours", metric):
                 continue
             marks = {}
             for mark in metric.marks:
-                if mark.size in (None, size) and not (counts and mark.median_only):
+                if mark.size in (None, size):
                     other = f"@{mark.beside_size}" if mark.beside_size is not None else ""
                     marks.setdefault(mark.beside + other, []).append(mark)
             others = [name for name in row.contenders if name != "ours" and samples(rounds, size, name, metric)]

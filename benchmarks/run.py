@@ -19,6 +19,7 @@ build = root / "build/bench"
 sys.dont_write_bytecode = True
 sys.path.insert(0, str(here))
 import report  # noqa: E402: it stands beside this file
+import table  # noqa: E402
 
 limit = 300  # seconds that one round of one contender may take
 
@@ -69,11 +70,10 @@ def instructions_of(group, command, size, metric):
     return {metric.name: collected / printed(done.stdout)["operations"]}
 
 
-def measure(group, row, counts):
+def measure(group, row):
     """A list of rounds; each is {size: {contender: {metric: value}}}. All contenders have their turn in each round."""
-    metrics = [metric for metric in row.metrics if metric.counted or not counts]
-    timed = [metric for metric in metrics if not metric.counted]
-    plain = [metric for metric in metrics if not metric.callgrind]
+    timed = [metric for metric in row.metrics if not metric.counted]
+    plain = [metric for metric in row.metrics if not metric.callgrind]
     rounds = []
     for number in range(max(7, row.rounds) if timed else 1):
         rounds.append({})
@@ -82,7 +82,7 @@ def measure(group, row, counts):
             for name, command in row.contenders.items():
                 if plain:
                     values[name].update(round_of(group, command, size))
-                for metric in metrics:
+                for metric in row.metrics:
                     if metric.callgrind and number == 0:
                         values[name].update(instructions_of(group, command, size, metric))
     return rounds
@@ -91,7 +91,7 @@ def measure(group, row, counts):
 def measured(group, row, counts):
     """Measures here, or on a private desktop when the row asks for one."""
     if row.session is None or "ZO_BENCH_INSIDE" in os.environ:
-        return measure(group, row, counts)
+        return measure(group, row)
     with tempfile.TemporaryDirectory() as folder:
         file = Path(folder) / "rounds.json"
         command = [root / "script/session", *row.session, "--", "env", "ZO_BENCH_INSIDE=1", sys.executable, __file__,
@@ -113,7 +113,7 @@ def main():
         print("\n".join(f"{group}: {row.name}: {row.title}" for group, row in rows))
         return 0
     if options.counts:
-        rows = [(group, row) for group, row in rows if any(metric.counted for metric in row.metrics)]
+        rows = [(group, counted) for group, row in rows if (counted := table.asserted(row))]
     lines = []
     for group, row in rows:
         print(f"bench: {row.title}", file=sys.stderr, flush=True)
@@ -121,8 +121,7 @@ def main():
         if options.into:
             Path(options.into).write_text(json.dumps(rounds))
             return 0
-        metrics = [metric for metric in row.metrics if metric.counted or not options.counts]
-        lines += report.lines_of(row, metrics, rounds, options.counts)
+        lines += report.lines_of(row, rounds)
     report.show(lines)
     if not options.rows and not options.counts:
         report.write(root / "docs/benchmarks.md", [row for _, row in rows], lines)

@@ -6,7 +6,7 @@ ROWS is a list of Row. A row's contenders are programs that do the same work: "o
 of the group's built programs, {here} the group's source folder, {size} the size. A program does one round and prints
 lines "metric value"; what it prints beyond the row's metrics is let be.
 """
-from dataclasses import dataclass, field
+from dataclasses import dataclass, field, replace
 
 
 @dataclass
@@ -47,3 +47,19 @@ class Row:
     sizes: list = field(default_factory=lambda: [""])
     session: list | None = None  # options of script/session; one private desktop for all rounds of the row
     rounds: int = 7              # at least
+
+
+def asserted(row):
+    """What script/bench --counts runs of a row: what the marks of its counted metrics are about. None without any."""
+    metrics = [replace(metric, marks=[mark for mark in metric.marks if not mark.median_only])
+               for metric in row.metrics if metric.counted]
+    marks = [mark for metric in metrics for mark in metric.marks]
+    if not marks:
+        return None
+    sizes = {size for mark in marks for size in (mark.size, mark.beside_size)}
+    if any(mark.size is None for mark in marks):
+        sizes.update(row.sizes)
+    besides = {"ours", *(mark.beside for mark in marks)}
+    return replace(row, metrics=[metric for metric in metrics if metric.marks],
+                   sizes=[size for size in row.sizes if size in sizes],
+                   contenders={name: command for name, command in row.contenders.items() if name in besides})

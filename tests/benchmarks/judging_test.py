@@ -9,24 +9,26 @@ sys.dont_write_bytecode = True
 sys.path.insert(0, str(root / "benchmarks"))
 import report  # noqa: E402
 import run  # noqa: E402
-from table import Mark, Metric, Row  # noqa: E402
+from table import Mark, Metric, Row, asserted  # noqa: E402
 
 # Ours is half of the peer in all rounds but one, and does not grow; the peer does.
-ROUNDS = [{"10": {"ours": {"us": 2.0}, "peer": {"us": 4.0}}, "100": {"ours": {"us": 2.0}, "peer": {"us": peer}}}
+ROUNDS = [{"10": {"ours": {"us": 2.0}, "peer": {"us": 4.0}, "other": {}}, "100": {"ours": {"us": 2.0}, "peer": {"us": peer}, "other": {}}}
           for peer in (40.0, 40.0, 0.1)]
 
 
+def row_with(*marks):
+    metric = Metric("us", "us", list(marks), counted=True)
+    return Row("row", "Row", {"ours": "a", "peer": "b", "other": "c"}, [metric, Metric("s", "s")], "", sizes=[10, 100])
+
+
 def verdicts(*marks):
-    metric = Metric("us", "us", list(marks))
-    row = Row("row", "Row", {"ours": "a", "peer": "b"}, [metric], "", sizes=[10, 100])
-    return [line.cells[-1] for line in report.lines_of(row, [metric], ROUNDS)]
+    return [line.cells[-1] for line in report.lines_of(row_with(*marks), ROUNDS)]
 
 
 def counted(*marks):
-    """The verdicts of a run that only counts."""
-    metric = Metric("us", "us", list(marks), counted=True)
-    row = Row("row", "Row", {"ours": "a", "peer": "b"}, [metric], "", sizes=[10, 100])
-    return [line.cells[-1] for line in report.lines_of(row, [metric], ROUNDS, True)]
+    """What a run that only counts does."""
+    row = asserted(row_with(*marks))
+    return row and ([metric.name for metric in row.metrics], list(row.contenders), row.sizes)
 
 
 def expect(got, wanted):
@@ -43,9 +45,14 @@ expect(verdicts(Mark(at_most=2)), ["", "reached", "", "reached"])
 expect(verdicts(Mark(at_most=1.9, size=10)), ["", "MISSED", ""])
 expect(verdicts(Mark("ours", at_most=1, size=100, beside_size=10)), ["", "", "reached"])
 expect(verdicts(Mark("ours", at_most=0.9, size=100, beside_size=10)), ["", "", "MISSED"])
-expect(counted(Mark("peer", at_most=0.49, median_only=True)), ["", ""])
+expect(counted(Mark("peer", at_most=0.49, median_only=True)), None)
+expect(counted(), None)
 expect(verdicts(Mark("peer", at_most=0.49, median_only=True)), ["MISSED", "reached"])
-expect(counted(Mark("peer", at_most=0.49)), ["MISSED", "reached"])
+expect(counted(Mark("peer", at_most=0.49)), (["us"], ["ours", "peer"], [10, 100]))
+expect(counted(Mark(at_most=2, size=100)), (["us"], ["ours"], [100]))
+expect(counted(Mark("ours", at_most=1, size=100, beside_size=10)), (["us"], ["ours"], [10, 100]))
+expect(counted(Mark("peer", at_most=1, size=10), Mark("other", at_most=1, median_only=True)),
+       (["us"], ["ours", "peer"], [10]))
 expect(run.printed("us 12.5\na word\ncount 3\nsmall 2.5e-06\n"), {"us": 12.5, "count": 3.0, "small": 2.5e-06})
 
 names = [row.name for _, rows in run.groups() for row in rows]
