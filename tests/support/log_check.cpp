@@ -48,6 +48,11 @@ test::expected_glib_message::expected_glib_message(std::string text) {
     met = 0;
 }
 
+int test::expected_glib_message::count() const {
+    std::lock_guard lock(mutex);
+    return met;
+}
+
 test::expected_glib_message::~expected_glib_message() {
     std::lock_guard lock(mutex);
     EXPECT_GT(met, 0) << "no message with: " << expected;

@@ -16,6 +16,9 @@ class expected_glib_message {
     ~expected_glib_message();
     expected_glib_message(const expected_glib_message&) = delete;
     expected_glib_message& operator=(const expected_glib_message&) = delete;
+
+    // How many have come.
+    int count() const;
 };
 
 }  // namespace test

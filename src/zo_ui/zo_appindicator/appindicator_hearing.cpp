@@ -10,8 +10,10 @@
 // keeps the connection.
 struct zo::ear {
     GMainContext* context = nullptr;  // owned
+    GSource* source = nullptr;        // of the loop's, turns the context
     guint last_answer = 0;            // the context's number of it; 0 when nothing is waited for
-    gint64 free_since = in_use;       // monotonic, in microseconds
+    gint64 patient_until = 0;         // monotonic, in microseconds, like the next
+    gint64 free_since = in_use;
 
     static constexpr gint64 in_use = std::numeric_limits<gint64>::max();
 };
@@ -19,8 +21,10 @@ struct zo::ear {
 namespace {
 
 constexpr guint questions = 3;
-constexpr gint64 rest = G_USEC_PER_SEC;  // late answers are mostly in by then
-constexpr std::size_t most_ears = 500;   // each has a descriptor, and a process mostly 1024
+constexpr gint64 patience = 5 * gint64{G_USEC_PER_SEC};  // never needed unless a library asks less
+constexpr int most_turns = 16;                           // of the context in a turn of the loop
+constexpr gint64 rest = G_USEC_PER_SEC;                  // late answers are mostly in by then
+constexpr std::size_t most_ears = 500;                   // each has a descriptor, and a process mostly 1024
 
 // Looks what lies in the context, and leaves it there. Returns the descriptor that tells when more comes.
 int look_into(GMainContext* context) {
@@ -36,13 +40,30 @@ int look_into(GMainContext* context) {
     return descriptor.fd;
 }
 
+// When the context has something to do by the clock, such as a call that nobody answers; negative for never.
+gint64 next_time(GMainContext* context) {
+    gint priority = 0;
+    gint timeout = -1;
+    g_main_context_acquire(context);
+    g_main_context_prepare(context, &priority);
+    g_main_context_query(context, G_MAXINT, &timeout, nullptr, 0);
+    g_main_context_release(context);
+    return timeout < 0 ? -1 : g_get_monotonic_time() + timeout * gint64{G_TIME_SPAN_MILLISECOND};
+}
+
+bool may_hear(zo::ear& ear) {
+    if (ear.last_answer && (g_main_context_find_source_by_id(ear.context, ear.last_answer) ||
+                            g_get_monotonic_time() >= ear.patient_until))
+        ear.last_answer = 0;
+    return !ear.last_answer;
+}
+
 gboolean on_heard(gint, GIOCondition, gpointer data) {
     auto& ear = *static_cast<zo::ear*>(data);
     look_into(ear.context);
-    if (ear.last_answer && g_main_context_find_source_by_id(ear.context, ear.last_answer))
-        ear.last_answer = 0;
-    while (!ear.last_answer && g_main_context_iteration(ear.context, FALSE)) {
-    }
+    int turns = 0;
+    while (turns < most_turns && may_hear(ear) && g_main_context_iteration(ear.context, FALSE)) ++turns;
+    g_source_set_ready_time(ear.source, ear.last_answer ? ear.patient_until : next_time(ear.context));
     return G_SOURCE_CONTINUE;
 }
 
@@ -63,7 +84,9 @@ std::list<zo::ear>& ears() {
 zo::ear* new_ear() {
     zo::ear& ear = ears().emplace_back();
     ear.context = g_main_context_new_with_flags(G_MAIN_CONTEXT_FLAGS_OWNERLESS_POLLING);
-    g_unix_fd_add(look_into(ear.context), G_IO_IN, on_heard, &ear);
+    ear.source = g_unix_fd_source_new(look_into(ear.context), G_IO_IN);
+    g_source_set_callback(ear.source, G_SOURCE_FUNC(on_heard), &ear, nullptr);
+    g_source_attach(ear.source, nullptr);
     return &ear;
 }
 
@@ -83,6 +106,8 @@ zo::ear* take_ear() {
     if (!ear) return nullptr;
     ear->free_since = zo::ear::in_use;
     ear->last_answer = newest_number(ear->context) + questions;
+    ear->patient_until = g_get_monotonic_time() + patience;
+    g_source_set_ready_time(ear->source, ear->patient_until);
     return ear;
 }
 

@@ -21,7 +21,7 @@ struct places {
     bus_state bus = bus_state::unasked;
     GDBusConnection* connection = nullptr;  // owned; null without a bus
     int living = 0;                         // icons, those that were let go too
-    std::map<std::string, int> leaving;     // icons that were let go and live, by name
+    std::map<std::string, int> leaving;     // icons that were let go and live, by their place
     std::vector<std::function<bool()>> waiting;
 };
 
@@ -41,6 +41,13 @@ struct bus_answer {
 places& all() {
     static auto& instance = *new places;  // never destroyed: an icon may leave while the process does
     return instance;
+}
+
+// What the indicator library takes on the bus for a name.
+std::string place_of(std::string name) {
+    for (char& c : name)
+        if (!g_ascii_isalnum(c)) c = '_';
+    return name;
 }
 
 // True when one of them wants its place still.
@@ -88,8 +95,8 @@ void ask_bus() {
 }
 
 void on_icon_left(gpointer data, GObject*) {
-    const std::unique_ptr<std::string> name(static_cast<std::string*>(data));
-    const auto place = all().leaving.find(*name);
+    const std::unique_ptr<std::string> taken(static_cast<std::string*>(data));
+    const auto place = all().leaving.find(*taken);
     if (place != all().leaving.end() && --place->second == 0) all().leaving.erase(place);
     --all().living;
     zo::leave_unused_bus();
@@ -100,7 +107,7 @@ void on_icon_left(gpointer data, GObject*) {
 
 bool zo::must_wait_for_place(const std::string& name, std::function<bool()> then) {
     if (all().bus == bus_state::unasked) ask_bus();
-    if (all().bus == bus_state::answered && !all().leaving.count(name)) return false;
+    if (all().bus == bus_state::answered && !all().leaving.count(place_of(name))) return false;
     all().waiting.push_back(std::move(then));
     return true;
 }
@@ -119,12 +126,12 @@ AppIndicator* zo::new_icon(const std::string& name, const std::string& icon, Gtk
     app_indicator_set_menu(made, menu);
     if (hears) hears->belongs_to(G_OBJECT(made));
     ++all().living;
-    g_object_weak_ref(G_OBJECT(made), on_icon_left, new std::string(name));
+    g_object_weak_ref(G_OBJECT(made), on_icon_left, new std::string(place_of(name)));
     return made;
 }
 
 void zo::let_icon_go(AppIndicator* icon) {
-    ++all().leaving[app_indicator_get_id(icon)];
+    ++all().leaving[place_of(app_indicator_get_id(icon))];
     app_indicator_set_status(icon, APP_INDICATOR_STATUS_PASSIVE);
     g_object_unref(icon);
 }

@@ -6,7 +6,7 @@
 // never goes. So the connection is made first, answers for itself first, and is held while there are icons;
 // not longer, because a host knows by its end that they have gone. And an icon that was taken away lives on
 // until the bus has answered what was asked for it; meanwhile its place on the bus, and its menu's, is taken,
-// and a new icon of the same name would not appear.
+// and a new icon of the same name, or of one that differs only in its signs, would not appear.
 #pragma once
 
 #include <libayatana-appindicator/app-indicator.h>

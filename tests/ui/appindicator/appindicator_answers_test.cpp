@@ -72,7 +72,7 @@ class AppindicatorAnswers : public test::with_tray_host {
 TEST_F(AppindicatorAnswers, ComeForTheIconLastButOne) {
     test::scoped_indicator indicator("ordered");
     show(indicator);
-    wait_for_host();
+    ASSERT_NO_FATAL_FAILURE(wait_for_host());
     answer(asked[0]);
     answer(asked[1]);
     expect_works("ordered");
@@ -81,20 +81,21 @@ TEST_F(AppindicatorAnswers, ComeForTheIconLastButOne) {
 TEST_F(AppindicatorAnswers, ComeForTheIconLast) {
     test::scoped_indicator indicator("disordered");
     show(indicator);
-    wait_for_host();
+    ASSERT_NO_FATAL_FAILURE(wait_for_host());
     answer(asked[1]);
     answer(asked[0]);
     expect_works("disordered");
 }
 
-// The next icon of a name comes when nothing of the former is left, and its menu has its place.
+// The next icon of a name, as the bus knows it, comes when nothing of the former is left; its menu has its
+// place.
 TEST_F(AppindicatorAnswers, ComeWhenTheIconHasGone) {
-    test::scoped_indicator former("again");
-    test::scoped_indicator next("again");
+    test::scoped_indicator former("a-gain");
+    test::scoped_indicator next("a_gain");
     show(former);
     former.destroy();
     show(next);
-    wait_for_host();
+    ASSERT_NO_FATAL_FAILURE(wait_for_host());
     EXPECT_FALSE(has_icon(next));
     answer(asked[0]);
     EXPECT_FALSE(has_icon(next)) << "the former's menu has not gone";
@@ -103,7 +104,7 @@ TEST_F(AppindicatorAnswers, ComeWhenTheIconHasGone) {
     ASSERT_EQ(asked.size(), 4U);
     answer(asked[3]);
     answer(asked[2]);
-    expect_works("again");
+    expect_works("a_gain");
 }
 
 }  // namespace
