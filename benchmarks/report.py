@@ -27,13 +27,19 @@ def samples(rounds, size, contender, metric):
             if metric.name in values[contender]]
 
 
+def bounds(marks):
+    return ", ".join(mark.text() for mark in marks)
+
+
 def compared(row, rounds, metric, size, beside, marks):
     """One line: ours beside one contender, or beside none."""
     ours = samples(rounds, size, "ours", metric)
-    with_unit = f"{number(median(ours))} {metric.unit}".strip()
     name, _, other_size = beside.partition("@")
+    theirs = samples(rounds, other_size or size, name, metric) if beside else ours
+    if not ours or not theirs:
+        return Line((row.title, str(size), metric.name, "not measured", name, "", "", bounds(marks), "MISSED"), False)
+    with_unit = f"{number(median(ours))} {metric.unit}".strip()
     if beside:
-        theirs = samples(rounds, other_size or size, name, metric)
         value = median(a / b if b else float("inf") if a else 1.0 for a, b in zip(ours, theirs))
         shown = (f"{name} at {other_size}" if other_size else name, number(median(theirs)), f"{value:.3g}")
     else:
@@ -41,23 +47,21 @@ def compared(row, rounds, metric, size, beside, marks):
         shown = ("", "", "")
     reached = all(mark.holds(value) for mark in marks)
     verdict = "" if not marks else "reached" if reached else "MISSED"
-    said = ", ".join(mark.text() for mark in marks)
-    return Line((row.title, str(size), metric.name, with_unit, *shown, said, verdict), reached)
+    return Line((row.title, str(size), metric.name, with_unit, *shown, bounds(marks), verdict), reached)
 
 
 def lines_of(row, rounds):
     lines = []
     for metric in row.metrics:
         for size in row.sizes:
-            if not samples(rounds, size, "ours", metric):
-                continue
             marks = {}
             for mark in metric.marks:
                 if mark.size in (None, size):
                     other = f"@{mark.beside_size}" if mark.beside_size is not None else ""
                     marks.setdefault(mark.beside + other, []).append(mark)
-            others = [name for name in row.contenders if name != "ours" and samples(rounds, size, name, metric)]
-            for beside in dict.fromkeys([*others, *marks]) or [""]:
+            measured = [name for name in row.contenders if samples(rounds, size, name, metric)]
+            others = [name for name in measured if name != "ours"] if "ours" in measured else []
+            for beside in dict.fromkeys([*others, *marks]) or ([""] if "ours" in measured else []):
                 lines.append(compared(row, rounds, metric, size, beside, marks.get(beside, [])))
     return lines
 

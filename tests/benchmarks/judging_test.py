@@ -45,6 +45,11 @@ expect(verdicts(Mark(at_most=2)), ["", "reached", "", "reached"])
 expect(verdicts(Mark(at_most=1.9, size=10)), ["", "MISSED", ""])
 expect(verdicts(Mark("ours", at_most=1, size=100, beside_size=10)), ["", "", "reached"])
 expect(verdicts(Mark("ours", at_most=0.9, size=100, beside_size=10)), ["", "", "MISSED"])
+# Who has a mark and no figures has missed it; who has no mark is left out.
+expect(verdicts(Mark("other", at_most=1)), ["", "MISSED", "", "MISSED"])
+expect(report.lines_of(Row("row", "Row", {"ours": "a"}, [Metric("s", "s")], "", sizes=[10]), ROUNDS), [])
+expect([line.reached for line in report.lines_of(
+    Row("row", "Row", {"ours": "a"}, [Metric("s", "s", [Mark(at_most=1)])], "", sizes=[10]), ROUNDS)], [False])
 expect(counted(Mark("peer", at_most=0.49, median_only=True)), None)
 expect(counted(), None)
 expect(verdicts(Mark("peer", at_most=0.49, median_only=True)), ["MISSED", "reached"])
