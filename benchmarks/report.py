@@ -36,12 +36,13 @@ def compared(row, rounds, metric, size, beside, marks):
     ours = samples(rounds, size, "ours", metric)
     name, _, other_size = beside.partition("@")
     theirs = samples(rounds, other_size or size, name, metric) if beside else ours
+    other = f"{name} at {other_size}" if other_size else name
     if not ours or not theirs:
-        return Line((row.title, str(size), metric.name, "not measured", name, "", "", bounds(marks), "MISSED"), False)
+        return Line((row.title, str(size), metric.name, "not measured", other, "", "", bounds(marks), "MISSED"), False)
     with_unit = f"{number(median(ours))} {metric.unit}".strip()
     if beside:
         value = median(a / b if b else float("inf") if a else 1.0 for a, b in zip(ours, theirs))
-        shown = (f"{name} at {other_size}" if other_size else name, number(median(theirs)), f"{value:.3g}")
+        shown = (other, number(median(theirs)), f"{value:.3g}")
     else:
         value = median(ours)
         shown = ("", "", "")

@@ -6,6 +6,7 @@
 #include <zo_ui/zo_appindicator/appindicator_p.hpp>
 
 #include <dlfcn.h>
+#include <initializer_list>
 #include <memory>
 
 namespace {
@@ -58,6 +59,14 @@ class AppindicatorAnswers : public test::with_tray_host {
         test::choose_and_wait(item, "A", called);
     }
 
+    void expect_works_answered(std::initializer_list<std::size_t> order) {
+        test::scoped_indicator indicator("ordered");
+        show(indicator);
+        ASSERT_NO_FATAL_FAILURE(wait_for_host());
+        for (const std::size_t number : order) answer(asked[number]);
+        expect_works("ordered");
+    }
+
     static bool has_icon(const test::scoped_indicator& indicator) {
         indicator_data_ptr iw;
         zo_property_get_extract<indicator_data_ptr>(indicator.object()->property_list, "indicator", &iw);
@@ -69,23 +78,9 @@ class AppindicatorAnswers : public test::with_tray_host {
     int called = 0;
 };
 
-TEST_F(AppindicatorAnswers, ComeForTheIconLastButOne) {
-    test::scoped_indicator indicator("ordered");
-    show(indicator);
-    ASSERT_NO_FATAL_FAILURE(wait_for_host());
-    answer(asked[0]);
-    answer(asked[1]);
-    expect_works("ordered");
-}
+TEST_F(AppindicatorAnswers, ComeForTheIconFirst) { expect_works_answered({0, 1}); }
 
-TEST_F(AppindicatorAnswers, ComeForTheIconLast) {
-    test::scoped_indicator indicator("disordered");
-    show(indicator);
-    ASSERT_NO_FATAL_FAILURE(wait_for_host());
-    answer(asked[1]);
-    answer(asked[0]);
-    expect_works("disordered");
-}
+TEST_F(AppindicatorAnswers, ComeForTheMenuFirst) { expect_works_answered({1, 0}); }
 
 // The next icon of a name, as the bus knows it, comes when nothing of the former is left; its menu has its
 // place.
