@@ -71,6 +71,22 @@ TEST(NotificationStack, ClosesTheGapBeforeAnybodyLooks) {
     EXPECT_EQ(next, top + height);
 }
 
+// Also one that has never been in the stack.
+TEST(NotificationStack, ClosesTheGapBeforeAnotherIsToldOfItsClose) {
+    const test::scoped_notification first("1", "one");
+    const test::scoped_notification second("2", "two");
+    first.show();
+    GtkWidget* const b = second.show();
+    const zo_notification_ptr other = zo_notification_new();
+    int told = 0;
+    zo_notification_on_close(
+        other, [&](const zo_notification_ptr&) { gtk_window_get_position(GTK_WINDOW(b), nullptr, &told); });
+    zo_notification_destroy(first);
+    zo_notification_destroy(other);
+    test::run_tasks();
+    EXPECT_EQ(told, top);
+}
+
 TEST(NotificationStack, IsInTheOrderOfMaking) {
     const test::scoped_notification first("1");
     const test::scoped_notification second("2");
