@@ -113,4 +113,15 @@ TEST(NotificationStack, ALongOneNeverComesInAgainFromAbove) {
     EXPECT_TRUE(test::comes_to(all[0]->popup(), {x, top}));
 }
 
+TEST(NotificationStack, OneThatTheApplicationHidesKeepsItsPlace) {
+    const test::scoped_notification first("1", "one");
+    const test::scoped_notification second("2", "two");
+    GtkWidget* a = first.show();
+    ASSERT_TRUE(test::comes_to(a, {x, top}));
+    const int y = below(a);
+    gtk_widget_hide(a);
+    GtkWidget* b = second.show();
+    EXPECT_TRUE(test::comes_to(b, {x, y})) << test::spot_of(b);
+}
+
 }  // namespace
