@@ -90,6 +90,16 @@ class property_guard {
         return done;
     }
 
+    // As read(), but a value of another type is reported as a missing one is.
+    template <typename T>
+    bool read_checked(const char* name, T& value, const spelling& how) {
+        const auto place = object_.property_list.find(property_key(name));
+        const T* const stored = place == object_.property_list.end() ? nullptr : value_in<T>(place->second);
+        if (stored) value = *stored;
+        check(stored != nullptr, "zo_property_get_extract", type_text<T>::value, name, how);
+        return stored != nullptr;
+    }
+
     // Afterwards `value` holds what it replaced; the caller lets it outlive the guard.
     template <typename T, typename Name>
     void write(const Name& name, T& value, const spelling& how) {

@@ -6,10 +6,12 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdint>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <vector>
 
 namespace {
 
@@ -70,6 +72,19 @@ TEST(Catalogue, OfAnotherLanguageDisturbsNobody) {
     EXPECT_TRUE(zo::are_catalogues_sound(folder.string(), "zo"));
     setenv("LANGUAGE", "pl:de", 1);
     EXPECT_FALSE(zo::are_catalogues_sound(folder.string(), "zo"));
+}
+
+// These words, in the byte order of this machine, and these bytes behind them.
+std::string catalogue_of(const std::vector<std::uint32_t>& words, const std::string& texts) {
+    return std::string(reinterpret_cast<const char*>(words.data()), words.size() * sizeof words[0]) + texts;
+}
+
+// Without any text, and with the empty one for the empty message.
+TEST(Catalogue, TheSmallestAreSound) {
+    constexpr std::uint32_t magic = 0x950412de;
+    EXPECT_TRUE(zo::is_sound_catalogue(catalogue_of({magic, 0, 0, 28, 28, 0, 28}, "")));
+    EXPECT_TRUE(zo::is_sound_catalogue(
+        catalogue_of({magic, 0, 1, 28, 36, 0, 44, 0, 44, 0, 45}, std::string(2, '\0'))));
 }
 
 }  // namespace

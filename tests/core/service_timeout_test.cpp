@@ -143,6 +143,16 @@ TEST(ServiceTimeout, AClearedOneWakesNoLoop) {
     EXPECT_EQ(sleep_of_loop(), -1);
 }
 
+const test::scene dropped("dropped", [] {
+    after(never, [] {});
+    zo_system_service_end();
+    test::say(std::to_string(sleep_of_loop()));
+});
+
+TEST(ServiceTimeout, OneDroppedAtTheEndOfTheServiceWakesNoLoop) {
+    EXPECT_EQ(test::play("dropped").output, "-1\n");
+}
+
 TEST(ServiceTimeout, ClearingASpentOrUnknownOneIsSilent) {
     test::captured_output output;
     bool ran = false;

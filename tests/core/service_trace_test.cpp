@@ -126,4 +126,16 @@ TEST(ServiceTrace, OnItTellsOfEachTaskItsPosterItsWaitAndItsRun) {
     }
 }
 
+const test::scene sources("sources", [] {
+    zo_system_service_timeout_clear(test::after(1000, [] {}));  // makes all of them
+    for (guint id = 1; id < 10; ++id) {
+        GSource* const source = g_main_context_find_source_by_id(nullptr, id);
+        if (source && g_source_get_name(source)) test::say(g_source_get_name(source));
+    }
+});
+
+TEST(ServiceTrace, ItsSourcesAreToldByTheirNames) {
+    EXPECT_EQ(test::play("sources").output, "zo tasks\nzo tasks beside drawing\nzo timeouts\n");
+}
+
 }  // namespace

@@ -19,6 +19,7 @@ zo_test(core_catalogue_test
 add_dependencies(core_catalogue_test zo_catalogues)
 
 zo_test(core_place_test FILES core/place_test.cpp)
+zo_test(core_describe_test FILES core/describe_test.cpp)
 
 zo_test(core_service_order_test FILES core/service_order_test.cpp core/sleeping_loop.cpp)
 zo_test(core_service_gathering_test FILES core/service_gathering_test.cpp)

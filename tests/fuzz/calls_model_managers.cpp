@@ -87,6 +87,8 @@ void model::manager_open(int m) {
     if (it.opened || it.destroyed || it.visible) return;
     it.opened = true;
     it.locked = it.keep;
+    for (const int w : it.registered)
+        if (windows_[w].opened && !has(it.shown, w)) it.shown.push_back(w);
     for (const int w : std::vector(it.shown)) give_task(w);
     tell_manager(m, event::open);
 }
@@ -140,7 +142,7 @@ void model::connect(int m, int w) {
     manager& it = managers_[m];
     if (it.destroyed || it.destroying || windows_[w].destroyed || has(it.registered, w)) return;
     it.registered.push_back(w);
-    if (windows_[w].opened) window_opened(m, w);
+    if (windows_[w].opened && it.opened) window_opened(m, w);
 }
 
 void model::disconnect(int m, int w) {

@@ -100,6 +100,15 @@ TEST_F(Framed, AProcessIdBelowZeroIsToldAndIsAFailure) {
     EXPECT_EQ(active.pid, -3);
 }
 
+TEST_F(Framed, TheLowestProcessIdIsOne) {
+    test::foreign_window window({"title=First", "class=first,First", "pid=1"});
+    activate(window);
+    info active;
+    EXPECT_TRUE(active.read());
+    EXPECT_EQ(active.window, window.id());
+    EXPECT_EQ(active.pid, 1);
+}
+
 TEST_F(Framed, WithoutAClassOnlyTheTitleIsFilledIn) {
     test::foreign_window window({"title=No class", "pid=4713"});
     activate(window);

@@ -127,6 +127,14 @@ TEST(LongText, ThatFitsIsLeftAlone) {
     test::run_tasks();
 }
 
+// It is measured, and not shown before its window is.
+TEST(LongText, IsHiddenUntilItsWindowIsShown) {
+    test::scoped_window window;
+    zo_window_set_title(window, times(20, "a title of words "));
+    GtkWidget* const label = test::find_class(window.open(), "title-text");
+    EXPECT_FALSE(gtk_widget_get_visible(label));
+}
+
 std::string content_shown(const std::string& content) {
     const zo_notification_ptr notification = zo_notification_new();
     zo_notification_set_content(notification, content);

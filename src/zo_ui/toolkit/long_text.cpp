@@ -62,11 +62,17 @@ int width_of(GtkWidget* label) {
     return narrowest;
 }
 
+// Before zo_ui_init() nobody knows how large the desktop is.
+bool is_desktop_known() { return zo_ui_workarea_width() > 0 && zo_ui_workarea_height() > 0; }
+
 bool fits(GtkWidget* label) {
+    if (!is_desktop_known()) return true;
+    const bool was_visible = gtk_widget_get_visible(label);
     gtk_widget_show(label);  // hidden ones measure nothing
     const int width = width_of(label);
     int height = 0;
     gtk_widget_get_preferred_height_for_width(label, width, nullptr, &height);
+    gtk_widget_set_visible(label, was_visible);
     return width <= zo_ui_workarea_width() && height <= zo_ui_workarea_height();
 }
 

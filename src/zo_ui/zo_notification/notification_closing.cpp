@@ -20,10 +20,9 @@ void _zo_notification::close_for_good() {
     const zo_notification_ptr self = handle();
     zo::notification_callables callables = begin_closing();
     cancel_timeout();
-    zo::popup_container* const stack = stack_.popups;
     _close();
     if (callables.on_close) {
-        zo::close_gaps(stack);
+        zo::close_all_gaps();
         callables.on_close(self);
     }
     callables.on_link = nullptr;

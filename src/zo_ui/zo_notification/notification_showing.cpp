@@ -130,7 +130,7 @@ void _zo_notification::_hide() {
     shown_for_ = static_cast<int>(std::time(nullptr) - shown_at_);
     if (widgets_.window) {
         gtk_window_get_size(GTK_WINDOW(widgets_.window), nullptr, &place_.height);
-        if (!zo_system_service_done()) gtk_widget_hide(widgets_.window);
+        gtk_widget_hide(widgets_.window);
     }
     set_visible(false, source::hide_task);
 }

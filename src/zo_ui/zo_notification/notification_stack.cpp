@@ -123,3 +123,7 @@ void zo::close_gaps(popup_container* popups) {
     waiting().erase(place);
     if (!zo_system_service_done()) restack(stack);
 }
+
+void zo::close_all_gaps() {
+    while (!waiting().empty()) close_gaps(waiting().begin()->first);
+}

@@ -26,9 +26,10 @@ int x_of(const popup_stack& stack);
 int y_below(const popup_stack& stack, unsigned long id);
 
 // Moves the popups of a stack up to where others left. The first does it once for all that the application
-// destroyed in a row: each move of hundreds of popups costs a request for each of them. Who asks for a place,
-// or lets the application look, calls the second before.
+// destroyed in a row: each move of hundreds of popups costs a request for each of them. Who asks for a place
+// calls the second before, who lets the application look the third.
 void close_gaps_soon(const popup_stack& stack);
 void close_gaps(popup_container* popups);
+void close_all_gaps();
 
 }  // namespace zo

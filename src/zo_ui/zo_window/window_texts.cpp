@@ -67,15 +67,8 @@ void _zo_window::apply_class(const std::string& old, const std::string& style_cl
     apply_fixed_classes();
 }
 
-// Of two changes in a row the label shows the second at once, as the property does.
-void _zo_window::apply_title(const std::string&, const std::string&) {
-    if (!widgets_.title_label) return;
-    std::string present;
-    {
-        zo::property_guard guard(*this, source::file, source::text_task);
-        guard.read("window-title-text", present, {"&title"});
-    }
-    show_title(present);
+void _zo_window::apply_title(const std::string&, const std::string& title) {
+    if (widgets_.title_label) show_title(title);
 }
 
 void _zo_window::set_id(std::string s) { post_text_change(zo::window_text::id, std::move(s)); }

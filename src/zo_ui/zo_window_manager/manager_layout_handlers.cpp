@@ -3,6 +3,7 @@
 // before.
 #include <zo_ui/zo_window_manager/manager_p.hpp>
 
+#include <zo_ui/zo_ui_connect.hpp>
 #include <zo_ui/zo_ui_screen.hpp>
 
 #include <algorithm>
@@ -45,11 +46,6 @@ struct zo::panel_handlers {
         else
             manager->on_grab_begun();
     }
-
-    static void on_lock(GtkWidget* button, _zo_window_manager* manager) {
-        const zo_window_manager_ptr self = manager->handle();
-        manager->lock_clicked_(button);
-    }
 };
 
 void _zo_window_manager::connect_panel() {
@@ -65,7 +61,10 @@ void _zo_window_manager::connect_panel() {
     connect(widgets_.event_box, "enter-notify-event", G_CALLBACK(panel_handlers::on_crossing));
     connect(widgets_.event_box, "leave-notify-event", G_CALLBACK(panel_handlers::on_crossing));
     connect(widgets_.event_box, "grab-notify", G_CALLBACK(panel_handlers::on_grab));
-    connect(widgets_.lock_button, "clicked", G_CALLBACK(panel_handlers::on_lock));
+    // The handler goes with the button, which may outlive the panel's use (disconnect_panel()).
+    zo_ui_connect_button_click_signal(widgets_.lock_button, [self = handle()](GtkWidget* button) {
+        if (self->widgets_.window && self->widgets_.lock_button == button) self->lock_clicked_(button);
+    });
 }
 
 // When the service is done, a closed panel stays on screen; one that others destroy has children that go
@@ -73,7 +72,7 @@ void _zo_window_manager::connect_panel() {
 void _zo_window_manager::disconnect_panel() {
     if (!widgets_.window) return;
     for (GtkWidget* widget : {widgets_.taskbox_left, widgets_.taskbox_center, widgets_.taskbox_right,
-                              widgets_.event_box, widgets_.lock_button, widgets_.window})
+                              widgets_.event_box, widgets_.window})
         g_signal_handlers_disconnect_by_data(widget, this);
 }
 

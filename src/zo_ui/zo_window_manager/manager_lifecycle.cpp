@@ -84,7 +84,7 @@ void _zo_window_manager::destroy_now() {
     std::array<callback_function, 5> cleared;  // outlives the locks
     {
         zo::property_guard guard(*this, source::file, source::destroy_task);
-        guard.read("manager-destroy", fn, {"&fn"});
+        guard.read_checked("manager-destroy", fn, {"&fn"});
         guard.write("manager-open", cleared[0], {"nullptr"});
         guard.write("manager-show", cleared[1], {"nullptr"});
         guard.write("manager-hide", cleared[2], {"nullptr"});

@@ -17,8 +17,8 @@ void _zo_window_manager::connect_window(zo_window_ptr window) {
     if (is_destroyed() || destroying_ || window->is_destroyed() || !registered_windows_.add(window)) return;
     zo::join_task(window);
     if (window->is_reffed()) zo_object_unref_real(window);
-    // One that is open already gets what it would have got.
-    if (!window->is_opened()) return;
+    // One that is open already gets what it would have got; where there is no panel, that is nothing.
+    if (!window->is_opened() || !is_opened()) return;
     on_window_open(window);
     if (!window->is_visible()) on_window_hidden(window);
 }

@@ -11,7 +11,7 @@ namespace {
 bool read_state(_zo_window_manager& manager, const char* name) {
     bool value = false;
     zo::property_guard guard(manager, source::file, source::state_reader);
-    guard.read(name, value, {"&value"});
+    guard.read_checked(name, value, {"&value"});
     return value;
 }
 
@@ -42,7 +42,7 @@ void _zo_window_manager::init_properties() {
 _zo_window_manager::callback_function _zo_window_manager::callback(const char* name, int line) {
     callback_function fn;
     zo::property_guard guard(*this, source::file, line);
-    guard.read(name, fn, {"&fn"});
+    guard.read_checked(name, fn, {"&fn"});
     return fn;
 }
 

@@ -74,6 +74,9 @@ void _zo_window_manager::forget_tasks() {
 }
 
 void _zo_window_manager::open_task_buttons_of_all() {
+    // Some joined when they were open and there was no panel.
+    for (const zo_window_ptr& window : registered_windows_.snapshot())
+        if (window->is_opened()) shown_windows_.add(window);
     const std::vector<zo_window_ptr> windows = shown_windows_.snapshot();
     for (const zo_window_ptr& window : windows) open_task_buttons(window);
     // GTK computes a style to dim a button, and anew when the next comes beside it.

@@ -50,6 +50,28 @@ TEST(NotificationOrder, InsideAnAction) {
     EXPECT_EQ(test::state_of(notification), (state{false, false, true})) << "at once";
 }
 
+// Its end waits for the link; until then there is nothing to hide or show.
+TEST(NotificationOrder, APopupThatGoesInsideItsLink) {
+    const test::scoped_notification notification("t", "<a href=\"zo-test:uri\">this</a>");
+    int called = 0;
+    zo_notification_on_activate_link_callback(
+        notification, [&](const zo_notification_ptr& self, std::string&) {
+            ++called;
+            gtk_widget_destroy(notification.popup());
+            self->_hide();
+            self->_show();
+            EXPECT_EQ(test::state_of(self), (state{true, false, false}));
+            return true;
+        });
+    notification.show();
+    gboolean handled = FALSE;
+    g_signal_emit_by_name(notification.part("content-text"), "activate-link", "zo-test:uri", &handled);
+    EXPECT_TRUE(handled);
+    EXPECT_EQ(called, 1);
+    test::run_tasks();
+    EXPECT_EQ(test::state_of(notification), (state{false, false, true}));
+}
+
 TEST(NotificationOrder, OneThatWasNeverOpenedLetsGoOfItsManager) {
     const test::scoped_panel panel;
     const long before = panel.get().use_count();

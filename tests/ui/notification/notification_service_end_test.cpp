@@ -20,6 +20,7 @@ TEST(NotificationServiceEnd, ForgetsThePopups) {
     EXPECT_EQ(closed, 1);
     EXPECT_EQ(test::state_of(notification), (test::state{false, false, true}));
     EXPECT_TRUE(GTK_IS_WINDOW(popup)) << "still there";
+    EXPECT_FALSE(gtk_widget_get_visible(popup));
     // Its buttons hold the notification; nothing of it is called any more.
     gtk_button_clicked(GTK_BUTTON(test::find_class(popup, "title-close")));
     EXPECT_EQ(closed, 1);

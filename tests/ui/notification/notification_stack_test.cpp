@@ -71,6 +71,22 @@ TEST(NotificationStack, ClosesTheGapBeforeAnybodyLooks) {
     EXPECT_EQ(next, top + height);
 }
 
+// Also one that has never been in the stack.
+TEST(NotificationStack, ClosesTheGapBeforeAnotherIsToldOfItsClose) {
+    const test::scoped_notification first("1", "one");
+    const test::scoped_notification second("2", "two");
+    first.show();
+    GtkWidget* const b = second.show();
+    const zo_notification_ptr other = zo_notification_new();
+    int told = 0;
+    zo_notification_on_close(
+        other, [&](const zo_notification_ptr&) { gtk_window_get_position(GTK_WINDOW(b), nullptr, &told); });
+    zo_notification_destroy(first);
+    zo_notification_destroy(other);
+    test::run_tasks();
+    EXPECT_EQ(told, top);
+}
+
 TEST(NotificationStack, IsInTheOrderOfMaking) {
     const test::scoped_notification first("1");
     const test::scoped_notification second("2");
@@ -95,6 +111,17 @@ TEST(NotificationStack, ALongOneNeverComesInAgainFromAbove) {
     EXPECT_GT(test::spot_of(all.back()->popup()).y, 30000);
     while (all.size() > 1) all.erase(all.begin());
     EXPECT_TRUE(test::comes_to(all[0]->popup(), {x, top}));
+}
+
+TEST(NotificationStack, OneThatTheApplicationHidesKeepsItsPlace) {
+    const test::scoped_notification first("1", "one");
+    const test::scoped_notification second("2", "two");
+    GtkWidget* a = first.show();
+    ASSERT_TRUE(test::comes_to(a, {x, top}));
+    const int y = below(a);
+    gtk_widget_hide(a);
+    GtkWidget* b = second.show();
+    EXPECT_TRUE(test::comes_to(b, {x, y})) << test::spot_of(b);
 }
 
 }  // namespace

@@ -86,6 +86,7 @@ TEST_F(NotificationTable, AMissingFlagIsReportedWithItsExpression) {
                                         "\",&value)"};
     };
     EXPECT_EQ(lines_of("window-opened", [&] { object._hide(); }), read("window-opened"));
+    EXPECT_TRUE(test::state_of(notification).visible) << "what is not open is not hidden";
     EXPECT_EQ(lines_of("window-destroyed", [&] { object._show(); }), read("window-destroyed"));
     EXPECT_EQ(lines_of("window-visible", [&] { object._show(); })[0], read("window-visible")[0]);
 }

@@ -212,4 +212,14 @@ TEST_F(NotificationTree, NothingIsWiderThanItsPlace) {
     g_free(tip);
 }
 
+TEST_F(NotificationTree, ATitleOfManyLinesIsShownInOne) {
+    std::string title;
+    for (int line = 0; line < 9; ++line) title += std::string(30, 'w') + "\n";
+    const test::scoped_notification high(title, "c");
+    ASSERT_TRUE(high.show());
+    std::string shown = title;
+    std::replace(shown.begin(), shown.end(), '\n', ' ');
+    EXPECT_STREQ(gtk_label_get_text(GTK_LABEL(high.part("title-text"))), shown.c_str());
+}
+
 }  // namespace

@@ -3,6 +3,7 @@
 #include "support/ui.hpp"
 
 #include <zo_ui/toolkit/process_state_p.hpp>
+#include <zo_ui/toolkit/style_p.hpp>
 #include <zo_ui/toolkit/trampolines_p.hpp>
 
 namespace {
@@ -57,6 +58,17 @@ TEST(AlphaVisual, OfAScreenWithoutOneLeavesTheWidgetAsItIs) {
     zo_ui_gtk_fix_visual_rgba(window);
     EXPECT_NE(gtk_widget_get_visual(window), plain);
     gtk_widget_destroy(window);
+}
+
+TEST(Tooltip, IsTheNameThatAssistiveProgramsRead) {
+    GtkWidget* button = GTK_WIDGET(g_object_ref_sink(gtk_button_new()));
+    for (const auto& [markup, name] :
+         {std::pair("Save &amp; <b>close</b>", "Save & close"), std::pair("Back", "Back")}) {
+        zo::set_tooltip(button, markup);
+        EXPECT_STREQ(atk_object_get_name(gtk_widget_get_accessible(button)), name);
+    }
+    gtk_widget_destroy(button);
+    g_object_unref(button);
 }
 
 }  // namespace

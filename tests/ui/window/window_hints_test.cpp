@@ -3,7 +3,38 @@
 #include "support/desktop.hpp"
 #include "support/ui.hpp"
 
+// After GoogleTest: Xlib's macros have common names.
+#include <gdk/gdkx.h>
+
 namespace {
+
+// The requests for another state of a window that reach its window manager from now on.
+class state_requests {
+  public:
+    explicit state_requests(GtkWidget* toplevel)
+        : window_(gdk_x11_window_get_xid(gtk_widget_get_window(toplevel))) {
+        gdk_display_sync(gdk_display_get_default());
+        XSelectInput(display_, DefaultRootWindow(display_), SubstructureNotifyMask);
+        XSync(display_, False);
+    }
+    ~state_requests() { XCloseDisplay(display_); }
+    state_requests(const state_requests&) = delete;
+    state_requests& operator=(const state_requests&) = delete;
+
+    int count() const {
+        gdk_display_sync(gdk_display_get_default());
+        XSync(display_, False);
+        const Atom state = XInternAtom(display_, "_NET_WM_STATE", False);
+        int requests = 0;
+        for (XEvent event; XCheckTypedEvent(display_, ClientMessage, &event);)
+            requests += event.xclient.window == window_ && event.xclient.message_type == state;
+        return requests;
+    }
+
+  private:
+    Display* const display_ = XOpenDisplay(nullptr);
+    const Window window_;
+};
 
 class WindowHints : public testing::Test {
   protected:
@@ -122,6 +153,25 @@ TEST_F(WindowHints, AskForAFrameOnlyWhereTheDesktopDecorates) {
     toplevel_ = window_->show();
     EXPECT_TRUE(frame_wanted());
     EXPECT_TRUE(test::x_property_becomes(toplevel_, "_NET_FRAME_EXTENTS", "= 0, 0, 0, 0", false));
+}
+
+// Not whenever it is mapped later, as when its workspace comes back: the user may have changed them since.
+TEST_F(WindowHints, AreAskedForOnceAfterAHiding) {
+    if (!toplevel_) return;
+    zo_window_hide(*window_);
+    test::run_tasks();
+    EXPECT_TRUE(test::x_property_becomes(toplevel_, "WM_STATE", "Normal", false));
+    zo_window_show(*window_);
+    test::run_tasks();
+    settle();
+    gdk_display_sync(gdk_display_get_default());
+    test::run_tasks();  // the window's own mapping
+    const state_requests requests(toplevel_);
+    GdkEvent* const mapped = gdk_event_new(GDK_MAP);
+    mapped->any.window = GDK_WINDOW(g_object_ref(gtk_widget_get_window(toplevel_)));
+    gtk_widget_event(toplevel_, mapped);
+    gdk_event_free(mapped);
+    EXPECT_EQ(requests.count(), 0);
 }
 
 }  // namespace

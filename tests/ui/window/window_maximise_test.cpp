@@ -38,6 +38,15 @@ void send_state(GtkWidget* toplevel, int changed, int now) {
     gdk_event_free(event);
 }
 
+void send_size(GtkWidget* toplevel, int width, int height) {
+    GdkEvent* event = gdk_event_new(GDK_CONFIGURE);
+    event->configure.window = GDK_WINDOW(g_object_ref(gtk_widget_get_window(toplevel)));
+    event->configure.width = width;
+    event->configure.height = height;
+    gtk_widget_event(toplevel, event);
+    gdk_event_free(event);
+}
+
 // A window of 420x... that stands away from the centre.
 class WindowMaximise : public testing::Test {
   protected:
@@ -175,6 +184,21 @@ TEST_F(WindowMaximise, AWindowUnmaximisedByItselfIsNotCentred) {
     send_state(toplevel_, 4, 160);
     test::settle_desktop();
     EXPECT_EQ(place_of(toplevel_), centred(before_));
+}
+
+// The un-maximised size comes after the state, and may differ in one direction alone.
+TEST_F(WindowMaximise, TheFirstSizeAfterTheStateIsCentred) {
+    show(true);
+    const rectangle sizes[] = {{0, 0, before_.width + 200, before_.height},
+                               {0, 0, before_.width, before_.height + 100}};
+    for (const rectangle& size : sizes) {
+        send_state(toplevel_, 4, 164);
+        send_state(toplevel_, 4, 160);
+        send_size(toplevel_, size.width, size.height);
+        test::settle_desktop();
+        const rectangle place = centred(size);
+        EXPECT_EQ(place_of(toplevel_), (rectangle{place.x, place.y, before_.width, before_.height}));
+    }
 }
 
 // The size was the old one already when the maximising was undone.

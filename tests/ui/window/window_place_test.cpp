@@ -1,11 +1,6 @@
 // SPDX-License-Identifier: MIT
 // A window that is hidden and shown again is where it was.
-#include "support/desktop.hpp"
-#include "support/ui.hpp"
-
-#include <signal.h>
-#include <unistd.h>
-#include <fstream>
+#include "ui/window/halted_manager.hpp"
 
 namespace {
 
@@ -79,35 +74,6 @@ TEST(WindowPlace, AMoveInTheTurnOfTheHidingCounts) {
     }
 }
 
-// A child of the session's script, as this program is; 0 when there is none.
-int manager_pid() {
-    const std::string session = "/proc/" + std::to_string(getppid());
-    std::ifstream children(session + "/task/" + std::to_string(getppid()) + "/children");
-    for (int child = 0; children >> child;) {
-        std::string name;
-        std::getline(std::ifstream("/proc/" + std::to_string(child) + "/comm"), name);
-        if (name == test::session_wm()) return child;
-    }
-    return 0;
-}
-
-// The window manager of the session does nothing for one scope, as a slow one would.
-class halted_manager {
-  public:
-    halted_manager() : pid_(manager_pid()) {
-        EXPECT_GT(pid_, 0);
-        if (pid_ > 0) kill(pid_, SIGSTOP);
-    }
-    ~halted_manager() {
-        if (pid_ > 0) kill(pid_, SIGCONT);
-    }
-    halted_manager(const halted_manager&) = delete;
-    halted_manager& operator=(const halted_manager&) = delete;
-
-  private:
-    int pid_;
-};
-
 // After an earlier move GTK answers that one's place, until the window manager has done the later one.
 TEST(WindowPlace, AMoveCountsThoughTheWindowManagerIsSlow) {
     if (test::session_wm() == "none") return;
@@ -118,7 +84,7 @@ TEST(WindowPlace, AMoveCountsThoughTheWindowManagerIsSlow) {
     ASSERT_TRUE(test::turn_until([&] { return place_of(toplevel) == std::pair(330, 250); }));
     test::settle_desktop();
     {
-        const halted_manager slow;
+        const test::halted_manager slow;
         zo_window_move(window, 41, 52);
         zo_window_hide(window);
         zo_window_show(window);
@@ -137,7 +103,7 @@ TEST(WindowPlace, ComesBackThoughTheWindowManagerIsSlow) {
     test::settle_desktop();
     for (int round = 0; round < 5; ++round) {
         {
-            const halted_manager slow;
+            const test::halted_manager slow;
             for (int pairs = 0; pairs < 2; ++pairs) {
                 zo_window_hide(window);
                 zo_window_show(window);

@@ -94,16 +94,6 @@ TEST_F(WindowReports, Texts) {
     }
 }
 
-TEST_F(WindowReports, TheTitleOfTheLabel) {
-    zo_window_open(window);
-    test::run_tasks();
-    zo_window_set_title(window, "text");
-    test::erase_property(window, "window-title-text");
-    forget();
-    test::run_tasks();
-    expect_report(test::reading("std::string", "window-title-text", "&title"), "window-title-text");
-}
-
 TEST_F(WindowReports, Events) {
     zo_window_push_event(window, zo_window_event_new(1));
     test::erase_property(window, "window-on-event");

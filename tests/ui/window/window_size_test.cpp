@@ -141,6 +141,17 @@ TEST_F(WindowSize, TheScrollerTakesTheSmallerOfContentAndWorkArea) {
     EXPECT_EQ(least_height(), screen_height - 34);
 }
 
+// Nothing else takes of its height.
+TEST_F(WindowSize, WithoutTitleAndAdvertisementTheScrollerTakesTheWholeWorkArea) {
+    zo_window_set_use_built_in_title(window_, false);
+    open(10, 10);
+    const int screen_height = zo_ui_workarea_height();
+    allocate("window-content", 111, screen_height);
+    EXPECT_EQ(least_height(), screen_height);
+    allocate("window-content", 111, screen_height + 1);
+    EXPECT_EQ(least_height(), screen_height);
+}
+
 TEST_F(WindowSize, IsNeverNegative) {
     open(10, 10);
     allocate("window-title", 300, zo_ui_workarea_height() + 50);

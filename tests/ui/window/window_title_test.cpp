@@ -75,6 +75,18 @@ TEST(WindowTitle, SaysInTooltipAndNameWhatAButtonDoes) {
     }
 }
 
+TEST(WindowTitle, ItsButtonsArePlainButtonsAndNoOthersAreNamed) {
+    test::scoped_window window("w");
+    test::enable_title_buttons(window);
+    GtkWidget* toplevel = window.open();
+    for (const row& wanted : rows)
+        EXPECT_EQ(G_OBJECT_TYPE(test::find_class(toplevel, wanted.style_class)), GTK_TYPE_BUTTON);
+    GtkWidget* const other = gtk_button_new();
+    gtk_widget_set_tooltip_text(other, "a tooltip");
+    EXPECT_EQ(test::accessible_name(other), "");
+    gtk_widget_destroy(g_object_ref_sink(other));
+}
+
 TEST(WindowTitle, KeepsTheNameThatTheApplicationGaveAButton) {
     test::scoped_window window("w");
     GtkWidget* button = test::find_class(window.open(), "title-close");

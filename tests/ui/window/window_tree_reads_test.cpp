@@ -2,6 +2,7 @@
 // Which properties opening and the title bar read, in which order: each one that is missing is reported.
 #include "support/desktop.hpp"
 #include "ui/window/tree_support.hpp"
+#include "ui/window/window_tables.hpp"
 
 namespace {
 
@@ -103,6 +104,40 @@ TEST(WindowReads, TheToolMenuReadsTheClass) {
     gtk_button_clicked(GTK_BUTTON(test::find_class(toplevel, "title-menu")));
     EXPECT_EQ(output.lines(), (std::vector{report("std::string", "window-class", "window_class", 901)}));
     EXPECT_EQ(test::toplevels("tool-menu").size(), 1u);
+}
+
+// A flag that cannot be read is off.
+TEST(WindowReads, AWindowWithoutItsFlagsIsBare) {
+    test::scoped_window window("w");
+    test::run_tasks();
+    for (const test::window_flag& flag : test::window_flags) forget(window, flag.property);
+    test::captured_output output;
+    GtkWidget* toplevel = window.open();
+    ASSERT_NE(toplevel, nullptr);
+    auto* gtk_window = GTK_WINDOW(toplevel);
+    EXPECT_EQ(gtk_window_get_window_type(gtk_window), GTK_WINDOW_TOPLEVEL);
+    EXPECT_FALSE(gtk_window_get_skip_taskbar_hint(gtk_window));
+    EXPECT_FALSE(gtk_window_get_skip_pager_hint(gtk_window));
+    EXPECT_FALSE(gtk_window_get_resizable(gtk_window));
+    EXPECT_TRUE(gtk_window_get_decorated(gtk_window)) << "by the desktop, as without a title bar";
+    EXPECT_FALSE(test::has_class(toplevel, "managed"));
+    EXPECT_FALSE(test::has_handler(toplevel, "screen-changed"));
+    for (const char* part : {"title-event-box", "window-ads-container", "window-scroll"})
+        EXPECT_EQ(test::find_class(toplevel, part), nullptr) << part;
+}
+
+TEST(WindowReads, ATitleBarWithoutItsFlagsHasOnlyTheText) {
+    test::scoped_window window("w");
+    test::run_tasks();
+    for (const test::window_flag& flag : test::window_flags)
+        if (flag.property != std::string("use-built-in-title")) forget(window, flag.property);
+    test::captured_output output;
+    GtkWidget* toplevel = window.open();
+    ASSERT_NE(toplevel, nullptr);
+    EXPECT_FALSE(gtk_window_get_decorated(GTK_WINDOW(toplevel)));
+    EXPECT_EQ(test::children(test::find_class(toplevel, "window-title")).size(), 1u);
+    GtkWidget* event_box = test::find_class(toplevel, "title-event-box");
+    EXPECT_FALSE(test::has_handler(event_box, "motion-notify-event"));
 }
 
 }  // namespace

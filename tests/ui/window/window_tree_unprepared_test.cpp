@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Windows of a program that never called zo_ui_init: no screen is known, so nothing is bounded by it.
+// Windows and popups of a program that never called zo_ui_init: no screen is known, so nothing is bounded by
+// it.
 #define ZO_TEST_WITHOUT_UI_INIT
 #include "support/desktop.hpp"
 #include "ui/window/tree_support.hpp"
@@ -23,6 +24,20 @@ TEST(UnpreparedWindow, TakesTheSizeOfItsContent) {
     auto* scroll = GTK_SCROLLED_WINDOW(test::find_class(toplevel, "window-scroll"));
     EXPECT_EQ(gtk_scrolled_window_get_min_content_width(scroll), 640);
     EXPECT_EQ(gtk_scrolled_window_get_min_content_height(scroll), 480);
+}
+
+TEST(UnpreparedNotification, HasItsWholeContent) {
+    const zo_notification_ptr notification = zo_notification_new();
+    std::string content = "<b>bold</b>";
+    for (int line = 0; line < 20; ++line) content += "\nA line of the content";
+    zo_notification_set_content(notification, content);
+    zo_notification_open_show(notification);
+    test::run_tasks();
+    auto* label = GTK_LABEL(test::find_class(test::toplevels("zo-notification").at(0), "content-text"));
+    EXPECT_EQ(gtk_label_get_label(label), content);
+    EXPECT_EQ(gtk_label_get_line_wrap_mode(label), PANGO_WRAP_WORD);
+    zo_notification_destroy(notification);
+    test::run_tasks();
 }
 
 // There is nothing to be centred on.

@@ -32,6 +32,14 @@ TEST(ManagerAfterDestroy, ThePanelTakesAndGivesWidgets) {
     EXPECT_FALSE(zo_window_manager_add_widget_right(panel, refused));
     EXPECT_FALSE(zo_window_manager_add_toolbar(panel, GTK_BOX(refused)));
     g_object_unref(refused);
+    // A box in a box is no widget of a panel that is gone.
+    GtkWidget* outer = GTK_WIDGET(g_object_ref_sink(box_new()));
+    GtkWidget* inner = box_new();
+    gtk_container_add(GTK_CONTAINER(outer), inner);
+    EXPECT_FALSE(zo_window_manager_remove_widget_left(panel, inner));
+    EXPECT_FALSE(zo_window_manager_remove_widget_right(panel, inner));
+    EXPECT_EQ(gtk_widget_get_parent(inner), outer);
+    g_object_unref(outer);
 }
 
 TEST(ManagerAfterDestroy, ThePanelSlidesAndLocks) {
@@ -54,6 +62,22 @@ TEST(ManagerAfterDestroy, ThePanelSlidesAndLocks) {
     panel.run(zo_window_manager_extend);
     panel.keep_extended(false);
     EXPECT_FALSE(zo_window_manager_get_keep_extended(panel));
+}
+
+// Wherever it was.
+TEST(ManagerAfterDestroy, APanelThatIsGoneSlidesNoMore) {
+    test::move_pointer(zo_ui_screen_x() + 500, zo_ui_screen_y() + 500);
+    for (const bool extended : {true, false}) {
+        const test::scoped_panel panel;
+        panel.keep_extended(extended);
+        panel.show();
+        EXPECT_TRUE(extended ? test::is_extended() : test::is_retracted());
+        panel.run(zo_window_manager_destroy);
+        gtk_widget_destroy(test::panel());
+        panel.run(zo_window_manager_extend);
+        panel.run(zo_window_manager_retract);
+        EXPECT_FALSE(test::panel());
+    }
 }
 
 }  // namespace

@@ -140,6 +140,8 @@ TEST_F(ManagerLayout, TheScroller) {
     EXPECT_EQ(scroller_minimum(), zo_ui_screen_width() - 50);
     GtkWidget* center = test::part("manager-taskbox-center");
     EXPECT_TRUE(GTK_IS_BOX(center));
+    EXPECT_EQ(gtk_widget_get_halign(center), GTK_ALIGN_START);
+    EXPECT_EQ(gtk_widget_get_valign(center), GTK_ALIGN_CENTER);
     EXPECT_TRUE(test::children(center).empty());
     EXPECT_TRUE(gtk_widget_is_ancestor(center, GTK_WIDGET(scroll)));
 }

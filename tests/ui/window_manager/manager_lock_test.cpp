@@ -61,6 +61,21 @@ TEST_F(ManagerLock, IsRememberedWhileThePanelIsClosed) {
     expect_locked(false);
 }
 
+// Its click is the library's own entry of the list, for as long as the button lives.
+TEST_F(ManagerLock, HasTheOneCallableOfItsButton) {
+    panel.open();
+    const auto ignore = [](GtkWidget*) {};
+    GtkWidget* const first = lock();
+    EXPECT_FALSE(zo_ui_connect_button_click_signal(first, ignore));
+    g_object_ref(first);
+    panel.close();
+    panel.open();
+    EXPECT_TRUE(zo_ui_connect_button_click_signal(first, ignore));
+    gtk_button_clicked(GTK_BUTTON(first));
+    expect_locked(false);
+    g_object_unref(first);
+}
+
 TEST_F(ManagerLock, TheLockButtonPointerIsLeftInPlace) {
     panel.open();
     GtkWidget* const first = lock();

@@ -79,6 +79,27 @@ TEST_F(ManagerMenu, AMenuOfAWindowLeavesThePanelAlone) {
     gtk_widget_destroy(window);
 }
 
+// Opened on the first row that is not the panel's any more.
+TEST_F(ManagerMenu, AMenuRightBelowLeavesThePanelAlone) {
+    panel.show();
+    GtkWidget* window = gtk_window_new(GTK_WINDOW_POPUP);
+    GtkWidget* button = test::menu_button();
+    gtk_container_add(GTK_CONTAINER(window), button);
+    const int y = zo_ui_screen_y() + 300;
+    gtk_window_move(GTK_WINDOW(window), zo_ui_screen_x() + 300, y);
+    gtk_widget_show_all(window);
+    ASSERT_TRUE(test::turn_until([&] { return test::is_on_screen(window); }));
+    panel.run(zo_window_manager_extend);
+    EXPECT_TRUE(test::is_extended());
+    const test::place place = test::place_of(test::panel());
+    const int row = place.y + place.height;
+    gtk_window_move(GTK_WINDOW(window), zo_ui_screen_x() + 300, y + row - test::middle_of(button).y);
+    ASSERT_TRUE(test::turn_until([&] { return test::middle_of(button).y == row; }));
+    test::use_menu(button, below());
+    EXPECT_TRUE(test::is_extended());
+    gtk_widget_destroy(window);
+}
+
 TEST_F(ManagerMenu, ARetractedPanelTakesThePointerInItsLastRowOnly) {
     panel.show();
     const test::place place = test::place_of(test::panel());
@@ -145,6 +166,23 @@ TEST_F(ManagerMenu, AMenuOfAClosedPanelIsForgotten) {
     gtk_grab_remove(grabbing);
     EXPECT_TRUE(test::is_extended());
     gtk_widget_destroy(grabbing);
+}
+
+// Two grabs end in a row when one is of the pointer alone.
+TEST_F(ManagerMenu, OverlappingGrabsOfOthersLeaveThePanelAlone) {
+    panel.show();
+    panel.run(zo_window_manager_extend);
+    EXPECT_TRUE(test::is_extended());
+    GtkWidget* of_all = gtk_invisible_new();
+    GtkWidget* of_pointer = gtk_invisible_new();
+    GdkDevice* pointer = gdk_seat_get_pointer(gdk_display_get_default_seat(gdk_display_get_default()));
+    gtk_grab_add(of_all);
+    gtk_device_grab_add(of_pointer, pointer, FALSE);
+    gtk_device_grab_remove(of_pointer, pointer);
+    gtk_grab_remove(of_all);
+    EXPECT_TRUE(test::is_extended());
+    gtk_widget_destroy(of_pointer);
+    gtk_widget_destroy(of_all);
 }
 
 }  // namespace

@@ -9,10 +9,9 @@
 
 namespace {
 
-// How high the screen's window that this toplevel is in, or is, stands among the others.
-std::ptrdiff_t height_of(GtkWidget* toplevel) {
+// How high the screen's window that this one is in, or is, stands among the others.
+std::ptrdiff_t height_of(Window window) {
     Display* display = XOpenDisplay(nullptr);
-    Window window = gdk_x11_window_get_xid(gtk_widget_get_window(toplevel));
     std::ptrdiff_t height = -1;
     for (Window root = None, parent = None; height < 0; window = parent) {
         Window* children = nullptr;
@@ -26,6 +25,10 @@ std::ptrdiff_t height_of(GtkWidget* toplevel) {
     }
     XCloseDisplay(display);
     return height;
+}
+
+std::ptrdiff_t height_of(GtkWidget* toplevel) {
+    return height_of(gdk_x11_window_get_xid(gtk_widget_get_window(toplevel)));
 }
 
 bool becomes_higher(GtkWidget* one, GtkWidget* other) {
@@ -71,6 +74,19 @@ TEST_P(ManagerOnTop, OfWindowsThatComeLater) {
     }
 }
 
+// Of another program, which has made it long before it shows it.
+TEST_P(ManagerOnTop, OfAWindowThatWasMadeBefore) {
+    Display* other = XOpenDisplay(nullptr);
+    const Window window = XCreateSimpleWindow(other, DefaultRootWindow(other), 200, 0, 400, 300, 0, 0, 0);
+    XSync(other, False);
+    test::settle_desktop();
+    XMapWindow(other, window);
+    XSync(other, False);
+    EXPECT_TRUE(
+        test::turn_until([&] { return height_of(top_) > height_of(window); }, std::chrono::seconds(5)));
+    XCloseDisplay(other);
+}
+
 TEST_P(ManagerOnTop, OfTheLibrarysOwnWindows) {
     test::joined_window window(panel_, "w");
     GtkWidget* toplevel = window.show();
@@ -90,6 +106,20 @@ TEST_P(ManagerOnTop, OfWindowsThatAreRaised) {
     }
     gtk_widget_destroy(first);
     gtk_widget_destroy(second);
+}
+
+// The second time nothing but its height has changed since the server told of it last.
+TEST_P(ManagerOnTop, OfAWindowThatIsRaisedAgain) {
+    if (test::session_wm() != "none") return;  // where the window manager tells of it in its list
+    GtkWidget* window = plain_window(false);
+    EXPECT_TRUE(becomes_higher(top_, window));
+    for (int round = 0; round < 3; ++round) {
+        gdk_window_raise(gtk_widget_get_window(window));
+        gdk_display_sync(gdk_display_get_default());
+        EXPECT_GT(height_of(window), height_of(top_));
+        EXPECT_TRUE(becomes_higher(top_, window)) << round;
+    }
+    gtk_widget_destroy(window);
 }
 
 // A frame is a popup with a window that is looked after. Not every window manager tells of a raised one in

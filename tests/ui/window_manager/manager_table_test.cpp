@@ -118,6 +118,24 @@ TEST_F(ManagerTable, MissingFlagsAreReportedByTheirReaders) {
               flag("manager-keep-extended"));
 }
 
+TEST_F(ManagerTable, AnotherTypeIsReportedAsAMissingProperty) {
+    const std::string visible = access("zo_property_get_extract", "bool", "manager-visible", "&value");
+    zo_property_set<int>(properties(), "manager-visible", 1);
+    bool value = true;
+    EXPECT_EQ(reports_of([&] { EXPECT_TRUE(zo_window_manager_is_visible(panel, &value)); }),
+              std::vector<std::string>{visible});
+    EXPECT_FALSE(value);
+    zo_property_set<bool>(properties(), "manager-visible", false);
+    zo_property_set<int>(properties(), "manager-open", 1);
+    EXPECT_EQ(run(zo_window_manager_open), std::vector<std::string>{read("manager-open")});
+    EXPECT_TRUE(test::panel());
+    panel.close();
+    zo_property_set<int>(properties(), "manager-destroy", 1);
+    EXPECT_EQ(run(zo_window_manager_destroy), std::vector<std::string>{read("manager-destroy")});
+    bool is_destroyed = false;
+    EXPECT_TRUE(zo_window_manager_is_destroyed(panel, &is_destroyed) && is_destroyed);
+}
+
 TEST_F(ManagerTable, IsLockedAtTheManagersSource) {
     test::taken_locks.clear();
     const test::scoped_panel other;

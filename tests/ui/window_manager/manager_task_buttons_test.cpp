@@ -155,6 +155,19 @@ TEST_F(ManagerTaskButtons, OfWindowsThatAreOpenWhenTheyJoin) {
     expect_opacity("hidden", 0.6);
 }
 
+// There is no panel whose window it could be; the panel that opens later has it.
+TEST_F(ManagerTaskButtons, AWindowThatJoinsWithoutAPanelStaysInSight) {
+    test::scoped_window window("a");
+    window.open();
+    panel.join(window);
+    zo_window_show(window);
+    test::run_tasks();
+    EXPECT_TRUE(test::state_of(window.get()).visible);
+    panel.open();
+    EXPECT_EQ(test::row(), "a x");
+    expect_opacity("a", 1.0);
+}
+
 TEST_F(ManagerTaskButtons, OfAReopenedPanelInTheOrderOfOpening) {
     panel.show();
     test::joined_window a(panel, "a");

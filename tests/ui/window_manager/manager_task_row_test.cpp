@@ -161,7 +161,8 @@ TEST_P(ManagerTaskRow, ScrollsToWhatHasChanged) {
     }
 }
 
-// A change of one is nothing to those that stay where they are, out of sight.
+// A change of one is nothing to those that stay where they are, out of sight; one that has changed there
+// learns of it when it comes into sight.
 TEST_P(ManagerTaskRow, LeavesTheOthersAlone) {
     shown_row row(zo::task_row_new, zo::task_row_add, GetParam());
     row.fill(60);
@@ -172,16 +173,29 @@ TEST_P(ManagerTaskRow, LeavesTheOthersAlone) {
     GtkWidget* const unseen = left_to_right ? paddings.back() : paddings.front();
     int calls = 0;
     const auto count = +[](int* number) { ++*number; };
-    retitle(unseen, "unseen");
-    row.draw();
     g_signal_connect_swapped(button_in(unseen), "size-allocate", G_CALLBACK(count), &calls);
     g_signal_connect_swapped(button_in(unseen), "draw", G_CALLBACK(count), &calls);
+    retitle(unseen, "unseen");
+    row.draw();
     retitle(seen, "seen");
     row.draw();
     EXPECT_EQ(calls, 0);
     row.scroll_to(left_to_right ? 1e6 : 0);
     row.scroll_to(left_to_right ? 0 : 1e6);
     EXPECT_GT(calls, 0);
+}
+
+// It holds what tells of scrolling no longer than it lives.
+TEST_P(ManagerTaskRow, LetsGoOfTheAdjustment) {
+    gpointer adjustment = nullptr;
+    {
+        shown_row row(zo::task_row_new, zo::task_row_add, GetParam());
+        row.fill(3);
+        GtkWidget* const scroller = gtk_widget_get_ancestor(row.row(), GTK_TYPE_SCROLLED_WINDOW);
+        adjustment = gtk_scrolled_window_get_hadjustment(GTK_SCROLLED_WINDOW(scroller));
+        g_object_add_weak_pointer(G_OBJECT(adjustment), &adjustment);
+    }
+    EXPECT_TRUE(test::turn_until([&] { return !adjustment; }));
 }
 
 }  // namespace
