@@ -7,6 +7,7 @@
 #include <zo_ui/zo_ui_screen.hpp>
 
 #include <algorithm>
+#include <boost/weak_ptr.hpp>
 
 namespace {
 
@@ -62,8 +63,11 @@ void _zo_window_manager::connect_panel() {
     connect(widgets_.event_box, "leave-notify-event", G_CALLBACK(panel_handlers::on_crossing));
     connect(widgets_.event_box, "grab-notify", G_CALLBACK(panel_handlers::on_grab));
     // The handler goes with the button, which may outlive the panel's use (disconnect_panel()).
-    zo_ui_connect_button_click_signal(widgets_.lock_button, [self = handle()](GtkWidget* button) {
-        if (self->widgets_.window && self->widgets_.lock_button == button) self->lock_clicked_(button);
+    const boost::weak_ptr<_zo_window_manager> weak = handle();
+    zo_ui_connect_button_click_signal(widgets_.lock_button, [weak](GtkWidget* button) {
+        const zo_window_manager_ptr self = weak.lock();
+        if (self && self->widgets_.window && self->widgets_.lock_button == button)
+            self->lock_clicked_(button);
     });
 }
 
