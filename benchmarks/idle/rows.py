@@ -17,5 +17,5 @@ after. The library has no timer that runs on and no thread: what it waits for ar
 notification's end. Up to two are for what the desktop itself tells. The floor is the same in plain calls of the toolkit, and
 tells how many are the toolkit's. tint2 and xfce4-panel show only their panel, with a clock, dunst one notification. What is
 counted does not vary: one round of 45 s for each contender is enough.
-""", session=["-w", "openbox", "-t", "service"]),
+""", session=["-w", "openbox", "-t", "service"], apart=True),
 ]

@@ -12,7 +12,7 @@ DAEMONS = {"dunst": "{bin}/daemon_notifications {size} dunst",
 
 
 def program(name, how):
-    return f"env G_SLICE=always-malloc {{bin}}/{name}_notifications {{size}} {how}"
+    return f"{{bin}}/{name}_notifications {{size}} {how}"
 
 
 def contenders(how):
