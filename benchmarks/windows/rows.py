@@ -17,10 +17,10 @@ def not_alone(marks):
 def row(name, desktop, session, about, of_counts):
     return Row(name, f"Open a window until it is drawn, and destroy it, among so many alive, {desktop}", CONTENDERS,
                [Metric("window_cpu_us", "us", NO_MORE + AHEAD),
-                Metric("window_x_requests", "", of_counts(NO_MORE + AHEAD), counted=True),
-                Metric("window_allocations", "", of_counts(NO_MORE + AHEAD), counted=True),
-                Metric("open_heap", "bytes", of_counts(NO_MORE + AHEAD), counted=True),
-                Metric("left_heap", "bytes", NOTHING_LEFT, counted=True),
+                Metric("window_x_requests", "", of_counts(NO_MORE), counted=True),
+                Metric("window_allocations", "", of_counts(NO_MORE), counted=True),
+                Metric("open_heap", "bytes", of_counts(NO_MORE), counted=True),
+                Metric("left_heap", "bytes", of_counts(NOTHING_LEFT), counted=True),
                 Metric("window_instructions", "", NO_MORE + AHEAD, counted=True, callgrind=True, sizes=[1, 10])],
                about, sizes=SIZES, session=session)
 
