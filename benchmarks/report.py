@@ -54,7 +54,7 @@ def compared(row, rounds, metric, size, beside, marks):
 def lines_of(row, rounds):
     lines = []
     for metric in row.metrics:
-        for size in row.sizes:
+        for size in row.sizes if metric.sizes is None else metric.sizes:
             marks = {}
             for mark in metric.marks:
                 if mark.size in (None, size):
@@ -64,14 +64,25 @@ def lines_of(row, rounds):
             others = [name for name in measured if name != "ours"] if "ours" in measured else []
             for beside in dict.fromkeys([*others, *marks]) or ([""] if "ours" in measured else []):
                 lines.append(compared(row, rounds, metric, size, beside, marks.get(beside, [])))
-    return lines
+    return lines + [failed(row, size, name) for size in row.sizes for name in row.contenders_at(size)
+                    if not any(one[str(size)][name] for one in rounds)]
+
+
+def failed(row, size, name):
+    """Ours must not fail; of another it is told."""
+    cells = (row.title, str(size), "", "failed" if name == "ours" else "", "" if name == "ours" else name,
+             "" if name == "ours" else "failed", "", "", "MISSED" if name == "ours" else "")
+    return Line(cells, name != "ours")
 
 
 def show(lines):
     table = [HEAD, *(line.cells for line in lines)]
     widths = [max(len(cells[column]) for cells in table) for column in range(len(HEAD))]
     for cells in table:
-        print("  ".join(cell.ljust(width) for cell, width in zip(cells, widths)).rstrip())
+        print("  ".join(cell.ljust(width) for cell, width in zip(cells, widths)).rstrip(), flush=True)
+
+
+def show_sum(lines):
     missed = sum(not line.reached for line in lines)
     marked = sum(bool(line.cells[-1]) for line in lines)
     print(f"bench: {marked - missed} of {marked} marks are reached")
@@ -91,9 +102,10 @@ def machine():
 
 def write(file, rows, lines):
     text = ["# Benchmarks", "", "Written by `script/bench`, in release mode, on this machine:", "", f"    {machine()}", "",
-            "Contenders run in turn, at least 7 rounds; figures are medians, ratios the medians of the rounds' ratios, ours",
-            "divided by theirs. Times mean little from machine to machine; ratios and counts are what to look at. The floor is",
-            "what an expert would write by hand for the same visible result.", "",
+            "Contenders run in turn, at least 7 rounds, every other round the other way round; figures are medians, ratios the",
+            "medians of the rounds' ratios, ours divided by theirs. Times mean little from machine to machine; ratios and counts",
+            "are what to look at. Counts are taken in runs of their own, in which all memory is asked for from malloc. The floor",
+            "is what an expert would write by hand for the same visible result.", "",
             "| " + " | ".join(HEAD) + " |", "|" + "---|" * len(HEAD)]
     text += ["| " + " | ".join(line.cells) + " |" for line in lines]
     for row in rows:

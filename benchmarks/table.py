@@ -34,7 +34,9 @@ class Metric:
     unit: str = ""
     marks: list = field(default_factory=list)
     counted: bool = False        # does not vary: asserted by script/bench --counts, from one round
-    callgrind: bool = False      # instructions in bench::section, told by callgrind; divided by "operations"
+    callgrind: bool = False      # counted: instructions in bench::section, told by callgrind; divided by "operations"
+    step: str = ""               # the bench::step that callgrind looks at; divided by "STEP_operations"
+    sizes: list | None = None    # only at these
 
 
 @dataclass
@@ -45,8 +47,16 @@ class Row:
     metrics: list
     about: str                   # for docs/benchmarks.md: what dominates, how cost grows, how far the floor is
     sizes: list = field(default_factory=lambda: [""])
+    only_at: dict = field(default_factory=dict)  # contender -> its sizes, where it would take too long at others
     session: list | None = None  # options of script/session; one private desktop for all rounds of the row
-    rounds: int = 7              # at least
+    apart: bool = False          # a desktop for each contender instead, all at once: for what only waits
+    rounds: dict = field(default_factory=dict)  # by size, where more than seven are taken: for what is short
+
+    def contenders_at(self, size):
+        return {name: command for name, command in self.contenders.items() if size in self.only_at.get(name, [size])}
+
+    def rounds_at(self, size):
+        return self.rounds.get(size, 7)
 
 
 def asserted(row):
@@ -57,8 +67,9 @@ def asserted(row):
     if not marks:
         return None
     sizes = {size for mark in marks for size in (mark.size, mark.beside_size)}
-    if any(mark.size is None for mark in marks):
-        sizes.update(row.sizes)
+    for metric in metrics:
+        if any(mark.size is None for mark in metric.marks):
+            sizes.update(row.sizes if metric.sizes is None else metric.sizes)
     besides = {"ours", *(mark.beside for mark in marks)}
     return replace(row, metrics=[metric for metric in metrics if metric.marks],
                    sizes=[size for size in row.sizes if size in sizes],

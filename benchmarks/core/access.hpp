@@ -58,11 +58,15 @@ void access_alone(Operation operation, Between between) {
 template <typename Operation>
 void access_together(int threads, Operation operation) {
     std::atomic<bool> go{false};
+    std::atomic<unsigned long> allocated{0};
     std::vector<std::thread> running;
     for (int thread = 0; thread < threads; ++thread)
         running.emplace_back([&] {
+            operation(0);  // what is made once is made here
             while (!go) std::this_thread::yield();
+            const unsigned long allocated_before = allocations();
             for (int turn = 0; turn < operations; ++turn) operation(turn);
+            allocated += allocations() - allocated_before;
         });
     const double begun = wall_us();
     const double begun_cpu = cpu_us();
@@ -70,6 +74,7 @@ void access_together(int threads, Operation operation) {
     for (std::thread& thread : running) thread.join();
     print("ns", (wall_us() - begun) * 1e3 / operations / threads);
     print("cpu_ns", (cpu_us() - begun_cpu) * 1e3 / operations / threads);
+    print("allocations", static_cast<double>(allocated) / operations / threads);
 }
 
 // Arguments: read or write, and the number of threads.

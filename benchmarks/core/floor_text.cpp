@@ -8,7 +8,8 @@ int main(int count, char** arguments) {
     return bench::access_main(
         count, arguments,
         [&](int) {
-            const std::string text = object.get<std::string>("window-title-text");
+            thread_local std::string text;
+            object.get_into("window-title-text", text);
             bench::use(text);
         },
         [&](int turn) { object.set<std::string>("window-title-text", bench::texts[turn % 2]); });

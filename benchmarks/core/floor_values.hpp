@@ -20,6 +20,20 @@ class floor_values {
         return std::any_cast<const T&>(values_.find(name)->second);
     }
 
+    // Into memory that `value` has already.
+    template <typename T>
+    void get_into(std::string_view name, T& value) {
+        const std::lock_guard lock(mutex_);
+        value = std::any_cast<const T&>(values_.find(name)->second);
+    }
+
+    // What it replaces goes out by `value`.
+    template <typename T>
+    void exchange(std::string_view name, T& value) {
+        const std::lock_guard lock(mutex_);
+        std::swap(std::any_cast<T&>(values_.find(name)->second), value);
+    }
+
     template <typename T>
     void set(std::string_view name, T value) {
         const std::lock_guard lock(mutex_);

@@ -6,6 +6,7 @@ struct _BenchThing {
     GMutex mutex;
     gboolean keep_above;
     gchar* title;
+    BenchThingFollower follower;
 };
 
 G_DEFINE_FINAL_TYPE(BenchThing, bench_thing, G_TYPE_OBJECT)
@@ -32,19 +33,25 @@ void get_property(GObject* object, guint id, GValue* value, GParamSpec* spec) {
 
 void set_property(GObject* object, guint id, const GValue* value, GParamSpec* spec) {
     BenchThing* self = BENCH_THING(object);
+    gchar* old = nullptr;
     g_mutex_lock(&self->mutex);
     switch (id) {
         case property_keep_above:
             self->keep_above = g_value_get_boolean(value);
             break;
         case property_title:
-            g_free(self->title);
+            old = self->title;
             self->title = g_value_dup_string(value);
             break;
         default:
             G_OBJECT_WARN_INVALID_PROPERTY_ID(object, id, spec);
     }
     g_mutex_unlock(&self->mutex);
+    if (id != property_title) return;
+    if (self->follower)
+        self->follower(self, old, g_value_get_string(value));
+    else
+        g_free(old);
 }
 
 void finalize(GObject* object) {
@@ -70,6 +77,8 @@ static void bench_thing_class_init(BenchThingClass* type) {
     g_object_class_install_property(object, property_title,
                                     g_param_spec_string("title", nullptr, nullptr, "", flags));
 }
+
+void bench_thing_follow(BenchThing* thing, BenchThingFollower follower) { thing->follower = follower; }
 
 static void bench_thing_init(BenchThing* self) {
     g_mutex_init(&self->mutex);

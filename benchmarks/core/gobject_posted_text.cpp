@@ -4,12 +4,10 @@
 #include <core/access.hpp>
 #include <core/gobject_class.hpp>
 
-#include <utility>
-
 namespace {
 
 struct change {
-    GObject* object;
+    BenchThing* thing;
     gchar* old;
     gchar* text;
 };
@@ -21,18 +19,15 @@ gboolean on_changed(gpointer data) {
 
 void let_go(gpointer data) {
     const auto* done = static_cast<change*>(data);
-    g_object_unref(done->object);
+    g_object_unref(done->thing);
     g_free(done->old);
     g_free(done->text);
     g_free(data);
 }
 
-void set_and_post(GObject* object, const char* text) {
-    change* next = g_new0(change, 1);
-    next->object = G_OBJECT(g_object_ref(object));
-    next->text = g_strdup(text);
-    g_object_get(object, "title", &next->old, nullptr);
-    g_object_set(object, "title", text, nullptr);
+void post(BenchThing* thing, gchar* old, const gchar* text) {
+    change* next = g_new(change, 1);
+    *next = {BENCH_THING(g_object_ref(thing)), old, g_strdup(text)};
     g_idle_add_full(G_PRIORITY_DEFAULT, on_changed, next, let_go);
 }
 
@@ -40,8 +35,10 @@ void set_and_post(GObject* object, const char* text) {
 
 int main(int count, char** arguments) {
     GObject* object = G_OBJECT(g_object_new(BENCH_TYPE_THING, "title", bench::texts[1].c_str(), nullptr));
+    bench_thing_follow(BENCH_THING(object), post);
     const int status = bench::access_main(
-        count, arguments, [](int) {}, [&](int turn) { set_and_post(object, bench::texts[turn % 2].c_str()); },
+        count, arguments, [](int) {},
+        [&](int turn) { g_object_set(object, "title", bench::texts[turn % 2].c_str(), nullptr); },
         [] {
             while (g_main_context_iteration(nullptr, FALSE)) {
             }

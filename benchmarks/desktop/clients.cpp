@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include <desktop/clients.hpp>
 
+#include <desktop/manager.hpp>
+
 #include <X11/Xatom.h>
 #include <X11/Xlib.h>
 #include <X11/Xutil.h>
@@ -11,11 +13,6 @@
 #include <vector>
 
 namespace {
-
-struct command {
-    int window;  // -1: the next `number` windows are to be mapped
-    int number;
-};
 
 void check(bool works) {
     if (works) return;
@@ -30,22 +27,12 @@ void set_title(Display* display, Window window, const std::string& title) {
                     reinterpret_cast<const unsigned char*>(title.data()), static_cast<int>(title.size()));
 }
 
-unsigned long managed(Display* display) {
-    Atom type = None;
-    int format = 0;
-    unsigned long count = 0;
-    unsigned long rest = 0;
-    unsigned char* list = nullptr;
-    XGetWindowProperty(display, DefaultRootWindow(display), XInternAtom(display, "_NET_CLIENT_LIST", False),
-                       0, 1 << 16, False, XA_WINDOW, &type, &format, &count, &rest, &list);
-    if (list) XFree(list);
-    return count;
-}
+std::size_t managed(Display* display) { return bench::windows_told(display, "_NET_CLIENT_LIST").size(); }
 
 void map_more(Display* display, std::vector<Window>& windows, int count,
               const std::function<std::string(int)>& title) {
     const int first = static_cast<int>(windows.size());
-    const unsigned long before = managed(display);
+    const std::size_t before = managed(display);
     for (int i = first; i < first + count; ++i) {
         const Window window = XCreateSimpleWindow(display, DefaultRootWindow(display), i % 40 * 20,
                                                   100 + i % 20 * 20, 60, 40, 0, 0, 0);
@@ -56,7 +43,7 @@ void map_more(Display* display, std::vector<Window>& windows, int count,
         XMapWindow(display, window);
         windows.push_back(window);
     }
-    for (int waited = 0; managed(display) < before + static_cast<unsigned long>(count); ++waited) {
+    for (int waited = 0; managed(display) < before + static_cast<std::size_t>(count); ++waited) {
         check(waited < 60000);
         usleep(1000);
     }
@@ -67,13 +54,9 @@ void map_more(Display* display, std::vector<Window>& windows, int count,
     check(display);
     std::vector<Window> windows;
     const char done = 1;
-    command next{};
+    int next = 0;
     while (read(commands, &next, sizeof next) == static_cast<ssize_t>(sizeof next)) {
-        if (next.window < 0)
-            map_more(display, windows, next.number, title);
-        else
-            set_title(display, windows[static_cast<std::size_t>(next.window)], title(next.number));
-        XSync(display, False);
+        map_more(display, windows, next, title);
         check(write(answers, &done, 1) == 1);
     }
     _exit(0);
@@ -103,13 +86,8 @@ bench::clients::~clients() {
     waitpid(process_, nullptr, 0);
 }
 
-void bench::clients::map(int count) const { run(-1, count); }
-
-void bench::clients::retitle(int window, int title) const { run(window, title); }
-
-void bench::clients::run(int window, int number) const {
-    const command next{window, number};
+void bench::clients::map(int count) const {
     char done = 0;
-    check(write(commands_, &next, sizeof next) == static_cast<ssize_t>(sizeof next));
+    check(write(commands_, &count, sizeof count) == static_cast<ssize_t>(sizeof count));
     check(read(answers_, &done, 1) == 1);
 }

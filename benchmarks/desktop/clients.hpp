@@ -19,12 +19,7 @@ class clients {
     // Shows the next ones; returns when they are managed.
     void map(int count) const;
 
-    // Gives a window the title of that number; returns when the server has it.
-    void retitle(int window, int title) const;
-
   private:
-    void run(int window, int number) const;
-
     int commands_ = -1;
     int answers_ = -1;
     int process_ = -1;

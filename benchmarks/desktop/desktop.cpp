@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include <desktop/desktop.hpp>
 
+#include <desktop/manager.hpp>
+
 #include <support/allocations.hpp>
 #include <support/x_requests.hpp>
 
@@ -13,13 +15,6 @@ namespace {
 
 constexpr double limit_us = 240e6;
 
-unsigned long place_count = 0;
-
-gboolean on_placed(GSignalInvocationHint*, guint, const GValue*, gpointer) {
-    ++place_count;
-    return TRUE;
-}
-
 void use_theme() {
     GtkCssProvider* sheet = gtk_css_provider_new();
     gtk_css_provider_load_from_path(sheet, ZO_BENCH_THEME, nullptr);
@@ -31,13 +26,11 @@ void use_theme() {
 }  // namespace
 
 void bench::begin() {
+    wait_for_empty_desktop();
     gtk_init(nullptr, nullptr);
     use_theme();
     // How many frames a transition has depends on the machine.
     g_object_set(gtk_settings_get_default(), "gtk-enable-animations", FALSE, nullptr);
-    g_type_class_unref(g_type_class_ref(GTK_TYPE_WIDGET));
-    g_signal_add_emission_hook(g_signal_lookup("size-allocate", GTK_TYPE_WIDGET), 0, on_placed, nullptr,
-                               nullptr);
 }
 
 void bench::turn() {
@@ -91,8 +84,6 @@ void bench::frame(GtkWidget* toplevel) {
     for (const char* phase : {"update", "layout", "paint"}) g_signal_emit_by_name(clock, phase);
 }
 
-unsigned long bench::places() { return place_count; }
-
 GtkWidget* bench::toplevel(const std::string& style_class) {
     const std::unique_ptr<GList, decltype(&g_list_free)> all(gtk_window_list_toplevels(), g_list_free);
     for (GList* item = all.get(); item; item = item->next) {
@@ -113,7 +104,6 @@ bench::step::step(std::string name, int count)
       count_(count),
       heap_(heap_bytes()),
       requests_(x_requests()),
-      places_(::place_count),
       allocations_(allocations()),
       cpu_(cpu_us()) {
     const char* const profiled = g_getenv("ZO_BENCH_STEP");
@@ -129,6 +119,6 @@ bench::step::~step() {
     tell("cpu_us", cpu);
     tell("allocations", static_cast<double>(allocations() - allocations_));
     tell("x_requests", static_cast<double>(x_requests() - requests_));
-    tell("places", static_cast<double>(::place_count - places_));
     tell("heap", heap_bytes() - heap_);
+    print((name_ + "_operations").c_str(), count_);
 }

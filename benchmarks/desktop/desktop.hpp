@@ -11,7 +11,7 @@
 
 namespace bench {
 
-// Starts GTK with the library's theme and counts places from now on.
+// Starts GTK with the library's theme, when nothing of the program before is managed any more.
 void begin();
 
 // Runs what waits in the loop, without waiting for more.
@@ -28,9 +28,6 @@ void turn_until_all_drawn(int count);
 
 // What a frame does, without waiting for the clock that limits frames: style, layout and drawing.
 void frame(GtkWidget* toplevel);
-
-// How many widgets were given a place ("size-allocate") so far.
-unsigned long places();
 
 // The toplevel with this style class; null when there is none.
 GtkWidget* toplevel(const std::string& style_class);
@@ -53,7 +50,6 @@ class step {
     std::optional<section> section_;
     double heap_;
     unsigned long requests_;
-    unsigned long places_;
     unsigned long allocations_;
     double cpu_;
 };

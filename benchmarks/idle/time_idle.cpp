@@ -1,60 +1,47 @@
 // SPDX-License-Identifier: MIT
-// time_idle PROGRAM [ARGUMENT...]: starts a program and tells how often its threads were woken in 20 s, once
-// it has come to rest.
+// time_idle WINDOWS ICONS NOTIFICATIONS PROGRAM [ARGUMENT...]: starts a program, a daemon that is to show as
+// many notifications perhaps, and waits until so many windows are on screen and so many icons in the tray.
+// Tells how often its threads were woken in 20 s once it has come to rest, and how often the processor was
+// taken from them.
+#include <desktop/child.hpp>
+#include <desktop/child_windows.hpp>
+#include <idle/switches.hpp>
+#include <idle/tray.hpp>
+#include <notifications/daemon.hpp>
 #include <support/measure.hpp>
 
-#include <sys/wait.h>
 #include <unistd.h>
 #include <csignal>
-#include <cstdio>
 #include <cstdlib>
-#include <filesystem>
-#include <fstream>
-#include <map>
-#include <string>
 
 namespace {
 
-constexpr int settling = 25;  // seconds: the toolkit has timers that run once, 15 s after it was started
+constexpr int start_limit = 60;  // seconds, as the next
+constexpr int settling = 25;     // the toolkit has timers that run once, 15 s after it was started
 constexpr int watched = 20;
 
-using waits = std::map<std::string, double>;  // by thread
-
-// Each time a thread waits it gives the processor away once.
-waits waits_of(pid_t process) {
-    waits all;
-    for (const auto& thread :
-         std::filesystem::directory_iterator("/proc/" + std::to_string(process) + "/task")) {
-        std::ifstream status(thread.path() / "status");
-        for (std::string word; status >> word;)
-            if (word == "voluntary_ctxt_switches:") status >> all[thread.path().filename()];
-    }
-    return all;
-}
-
-// A thread that ended meanwhile, such as an idle one of a pool, tells nothing any more.
-double more(const waits& now, const waits& before) {
-    double count = 0;
-    for (const auto& [thread, number] : now) {
-        const auto old = before.find(thread);
-        count += number - (old == before.end() ? 0 : old->second);
-    }
-    return count;
+void run(int windows, int icons, int notifications, char** program) {
+    bench::child process(program, true);
+    const bench::screen_watch screen;
+    const bench::session_bus bus;
+    if (notifications) bench::notification_daemon(process, bus).show(notifications);
+    const auto is_complete = [&] {
+        return screen.windows_of(process.id()) >= windows && bench::icons_of(bus, process.id()) >= icons;
+    };
+    process.must_reach("complete desktop", start_limit, is_complete);
+    sleep(settling);
+    process.must_reach("complete desktop any more", 0, is_complete);
+    const bench::switches before(process.id());
+    sleep(watched);
+    const bench::switches after(process.id());
+    process.must_reach("complete desktop at the end", 0, is_complete);
+    bench::print("wakeups", after.voluntary_since(before));
+    bench::print("preempted", after.involuntary_since(before));
 }
 
 }  // namespace
 
 int main(int, char** arguments) {
-    const pid_t process = fork();
-    if (process == 0) {
-        if (!std::freopen("/dev/null", "w", stdout) || !std::freopen("/dev/null", "w", stderr)) _exit(1);
-        execvp(arguments[1], arguments + 1);
-        _exit(127);
-    }
-    sleep(settling);
-    const waits before = waits_of(process);
-    sleep(watched);
-    bench::print("wakeups", more(waits_of(process), before));
-    kill(process, SIGKILL);
-    waitpid(process, nullptr, 0);
+    const auto number = [&](int index) { return std::atoi(arguments[index]); };
+    return bench::measured([&] { run(number(1), number(2), number(3), arguments + 4); });
 }

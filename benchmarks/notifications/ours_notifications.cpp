@@ -28,14 +28,16 @@ int main(int, char** arguments) {
         const bench::step step("show", count);
         for (int i = 0; i < count; ++i) shown.push_back(notification(i));
         bench::turn_until([&] { return drawn.count() >= count; });
-        bench::turn();
+        bench::whole_turn();
     }
-    const bench::step step("close", count);
-    for (const std::size_t index : bench::closing_order(count, how)) {
-        zo_notification_destroy(shown[index]);
-        if (how != bench::closing::in_one_turn) bench::turn();
+    {
+        const bench::step step("close", count);
+        for (const std::size_t index : bench::closing_order(count, how)) {
+            zo_notification_destroy(shown[index]);
+            shown[index].reset();
+            if (how != bench::closing::in_one_turn) bench::whole_turn();
+        }
+        if (how == bench::closing::in_one_turn) bench::whole_turn();
     }
-    bench::turn();
-    gdk_display_sync(gdk_display_get_default());
-    bench::turn();
+    return bench::none_left();
 }

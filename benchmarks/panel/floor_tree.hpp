@@ -47,12 +47,23 @@ inline GtkWidget* square_button(const char* size_class, const char* style_class,
     return button;
 }
 
+// The title is the button's label for whoever asks the button, so it is set there; GTK makes a new label of
+// it.
 inline void set_title(GtkWidget* button, const std::string& title) {
     gtk_button_set_label(GTK_BUTTON(button), title.c_str());
     GtkLabel* const label = GTK_LABEL(gtk_bin_get_child(GTK_BIN(button)));
     gtk_label_set_ellipsize(label, PANGO_ELLIPSIZE_END);
     gtk_label_set_max_width_chars(label, 24);
     describe(button, title.c_str());
+}
+
+inline GtkWidget* task_button(int number) {
+    GtkWidget* button = gtk_button_new();
+    set_title(button, bench::title(number));
+    gtk_widget_set_name(button, ("window" + std::to_string(number)).c_str());
+    g_signal_connect(button, "clicked", G_CALLBACK(on_clicked), nullptr);
+    gtk_widget_set_margin_start(button, 2);
+    return button;
 }
 
 inline std::vector<GtkWidget*> children(GtkWidget* container) {
@@ -67,12 +78,7 @@ inline std::vector<GtkWidget*> children(GtkWidget* container) {
 // The two paddings, that of the task button last.
 inline std::vector<GtkWidget*> add_window(GtkWidget* row, int number) {
     GtkWidget* close = square_button("size-16", "title-close", 16, "Close window");
-    GtkWidget* button = gtk_button_new_with_label("");
-    set_title(button, bench::title(number));
-    gtk_widget_set_name(button, ("window" + std::to_string(number)).c_str());
-    g_signal_connect(button, "clicked", G_CALLBACK(on_clicked), nullptr);
-    gtk_widget_set_margin_start(button, 2);
-    GtkWidget* paddings[] = {padded(close), padded(button)};
+    GtkWidget* paddings[] = {padded(close), padded(task_button(number))};
     for (GtkWidget* padding : paddings) gtk_box_pack_end(GTK_BOX(row), padding, FALSE, FALSE, 0);
     return {paddings[0], paddings[1]};
 }

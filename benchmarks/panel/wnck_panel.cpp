@@ -23,28 +23,13 @@ GtkWidget* panel_new(WnckHandle* handle) {
     return panel;
 }
 
-void count_up(WnckWindow*, int* renamed) { ++*renamed; }
-
-void retitle(WnckScreen* screen, const bench::clients& clients, int count, GtkWidget* panel) {
-    int renamed = 0;
-    for (GList* item = wnck_screen_get_windows(screen); item; item = item->next)
-        g_signal_connect(item->data, "name-changed", G_CALLBACK(count_up), &renamed);
-    const int retitles = bench::retitles / 20;  // of a thousand it would take minutes
-    const bench::step step("retitle", retitles);
-    for (int i = 0; i < retitles; ++i) {
-        clients.retitle(count - 1 - i % bench::in_sight, i + 3);
-        bench::turn_until([&renamed, i] { return renamed > i; });
-        bench::frame(panel);
-    }
-}
-
 }  // namespace
 
 int main(int, char** arguments) {
     const int count = std::atoi(arguments[1]);
     const bench::clients clients(bench::title);
-    clients.map(count);
     bench::begin();
+    clients.map(count);
     WnckHandle* const handle = wnck_handle_new(WNCK_CLIENT_TYPE_PAGER);
     WnckScreen* const screen = wnck_handle_get_default_screen(handle);
     wnck_screen_force_update(screen);
@@ -53,7 +38,6 @@ int main(int, char** arguments) {
         const bench::step step("show", count);
         panel = panel_new(handle);
     }
-    retitle(screen, clients, count, panel);
     {
         const bench::step step("join", bench::joining);
         const auto wanted = static_cast<guint>(count + bench::joining);

@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <atomic>
 #include <boost/make_shared.hpp>
+#include <chrono>
 #include <cstdlib>
 #include <string_view>
 #include <thread>
@@ -21,16 +22,24 @@ std::atomic<long> ran{0};
 std::atomic<double> ran_at{0};
 
 constexpr long batch = 1000;
+constexpr std::chrono::microseconds falls_asleep(200);  // in this time the loop does
 
 void turn_until(long tasks) {
     while (ran.load(std::memory_order_relaxed) < tasks) g_main_context_iteration(nullptr, TRUE);
 }
 
+// What the last task of a batch does: it posts the next one, if there is one. Null when others post.
+const std::function<void()>* post_next = nullptr;
+
 void post_from_loop(const handle& object, long tasks, const poster& post) {
-    for (long posted = 0; posted < tasks; posted += batch) {
-        for (long one = 0; one < batch; ++one) post(object);
-        turn_until(posted + batch);
-    }
+    long posted = 0;
+    const std::function<void()> post_batch = [&] {
+        for (const long end = std::min(posted + batch, tasks); posted < end; ++posted) post(object);
+    };
+    post_next = &post_batch;
+    post_batch();
+    turn_until(tasks);
+    post_next = nullptr;
 }
 
 void post_from_threads(const handle& object, long tasks, int posters, const poster& post) {
@@ -44,10 +53,11 @@ void post_from_threads(const handle& object, long tasks, int posters, const post
     for (std::thread& thread : threads) thread.join();
 }
 
-void print_latency(const handle& object, long tasks, const poster& post) {
+void print_latency(const handle& object, long tasks, bool is_asleep, const poster& post) {
     std::vector<double> waited;
     std::thread other([&] {
         for (long one = 0; one < tasks; ++one) {
+            if (is_asleep) std::this_thread::sleep_for(falls_asleep);
             const double posted = bench::wall_us();
             post(object);
             while (ran.load(std::memory_order_acquire) <= one) std::this_thread::yield();
@@ -68,7 +78,9 @@ bool measures_latency = false;
 void bench::run(const handle& object) {
     *object += 1;
     if (measures_latency) ran_at = wall_us();
-    ran.store(ran.load(std::memory_order_relaxed) + 1, std::memory_order_release);
+    const long now = ran.load(std::memory_order_relaxed) + 1;
+    ran.store(now, std::memory_order_release);
+    if (post_next && now % batch == 0) (*post_next)();
 }
 
 int bench::posts_main(int count, char** arguments, const std::function<void(const handle&)>& post) {
@@ -77,9 +89,9 @@ int bench::posts_main(int count, char** arguments, const std::function<void(cons
     const long tasks = std::atol(arguments[2]);
     const handle object = boost::make_shared<int>(0);
     g_main_context_acquire(nullptr);
-    if (from == "latency") {
+    if (from == "busy" || from == "asleep") {
         measures_latency = true;
-        print_latency(object, tasks, post);
+        print_latency(object, tasks, from == "asleep", post);
     } else {
         const double begun = wall_us();
         const double begun_cpu = cpu_us();

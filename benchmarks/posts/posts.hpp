@@ -14,8 +14,9 @@ using handle = boost::shared_ptr<int>;
 void run(const handle& object);
 
 // Arguments: "loop" and how many tasks, posted from tasks of the loop, a thousand in a go; "1", "4" and how
-// many, posted by as many other threads; "latency" and how many, posted one by one by another thread as soon
-// as the one before has run. Prints tasks_per_s, or p50_us and p99_us.
+// many, posted by as many other threads; "busy" and how many, posted one by one by another thread as soon as
+// the one before has run; "asleep" and how many, posted one by one when the loop has fallen asleep. Prints
+// tasks_per_s, or p50_us and p99_us.
 int posts_main(int count, char** arguments, const std::function<void(const handle&)>& post);
 
 }  // namespace bench

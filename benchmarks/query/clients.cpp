@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "clients.hpp"
 
+#include <desktop/manager.hpp>
+
 #include <X11/Xatom.h>
 #include <X11/Xlib.h>
 #include <X11/Xutil.h>
@@ -17,8 +19,6 @@ namespace {
 constexpr char name[] = "A window";
 constexpr char res_name[] = "client";
 constexpr char res_class[] = "Client";
-
-using windows = std::vector<Window>;
 
 Window make_client(Display* display) {
     const Window window =
@@ -37,31 +37,6 @@ Window make_client(Display* display) {
     return window;
 }
 
-// What the window manager tells at the root.
-windows told(Display* display, const char* property) {
-    Atom type = None;
-    int format = 0;
-    unsigned long count = 0, rest = 0;
-    unsigned char* data = nullptr;
-    XGetWindowProperty(display, DefaultRootWindow(display), XInternAtom(display, property, False), 0, 100000,
-                       False, XA_WINDOW, &type, &format, &count, &rest, &data);
-    const Window* first = reinterpret_cast<const Window*>(data);
-    const windows result(first, first + count);
-    if (data) XFree(data);
-    return result;
-}
-
-void send(Display* display, Window window, const char* message, long first) {
-    XEvent event{};
-    event.xclient.type = ClientMessage;
-    event.xclient.window = window;
-    event.xclient.message_type = XInternAtom(display, message, False);
-    event.xclient.format = 32;
-    event.xclient.data.l[0] = first;
-    XSendEvent(display, DefaultRootWindow(display), False, SubstructureRedirectMask | SubstructureNotifyMask,
-               &event);
-}
-
 template <typename Condition>
 void wait_until(Display* display, Condition holds) {
     for (XEvent event; !holds();)
@@ -74,34 +49,23 @@ void wait_for_focus(Display* display, Window window) {
     while (event.type != FocusIn);
 }
 
-// Returns when the window manager has handled what came before.
-void wait_for_manager(Display* display) {
-    const Window asking = XCreateSimpleWindow(display, DefaultRootWindow(display), 0, 0, 1, 1, 0, 0, 0);
-    XSelectInput(display, asking, PropertyChangeMask);
-    send(display, asking, "_NET_REQUEST_FRAME_EXTENTS", 0);
-    XEvent event;
-    XWindowEvent(display, asking, PropertyChangeMask, &event);
-    XDestroyWindow(display, asking);
-}
-
 Display* make_clients(std::size_t count) {
     Display* display = XOpenDisplay(nullptr);
     if (!display) return nullptr;
     XSelectInput(display, DefaultRootWindow(display), PropertyChangeMask);
     const auto are_managed = [display](std::size_t wanted) {
-        return told(display, "_NET_CLIENT_LIST").size() == wanted;
+        return bench::windows_told(display, "_NET_CLIENT_LIST").size() == wanted;
     };
-    // Those of the contender before may not be gone yet.
-    wait_until(display, [&] { return are_managed(0); });
+    bench::wait_for_empty_desktop();
     Window last = None;
     for (std::size_t i = 0; i < count; ++i) last = make_client(display);
     wait_until(display, [&] { return are_managed(count); });
-    send(display, last, "_NET_ACTIVE_WINDOW", 2);  // as a pager does, which is believed
+    bench::ask_manager(display, last, "_NET_ACTIVE_WINDOW", 2);  // as a pager does, which is believed
     wait_for_focus(display, last);
     // The focus wanders while many windows come.
     for (int steady = 0; steady < 5;) {
-        wait_for_manager(display);
-        steady = told(display, "_NET_ACTIVE_WINDOW") == windows{last} ? steady + 1 : 0;
+        bench::wait_for_manager(display);
+        steady = bench::windows_told(display, "_NET_ACTIVE_WINDOW") == std::vector{last} ? steady + 1 : 0;
     }
     return display;
 }

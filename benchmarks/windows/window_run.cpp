@@ -2,6 +2,7 @@
 #include <windows/window_run.hpp>
 
 #include <desktop/desktop.hpp>
+#include <desktop/manager.hpp>
 #include <support/allocations.hpp>
 #include <support/measure.hpp>
 #include <support/x_requests.hpp>
@@ -13,20 +14,31 @@
 namespace {
 
 constexpr int measured = 10;
-constexpr unsigned quiet_ms = 40;  // two frames, and what the desktop does meanwhile
+constexpr unsigned quiet_ms = 40;  // two frames
 
-// Until nothing has been asked of the X server for a while: the others may be drawn anew when one goes.
+// Two frames without anything to do. When they are over, what is to be drawn has been drawn.
+void turn_for_two_frames() {
+    bool over = false;
+    const auto end = +[](gpointer flag) -> gboolean {
+        *static_cast<bool*>(flag) = true;
+        return G_SOURCE_REMOVE;
+    };
+    g_timeout_add_full(G_PRIORITY_LOW, quiet_ms, end, &over, nullptr);
+    while (!over) g_main_context_iteration(nullptr, TRUE);
+}
+
+// Until the window manager has handled what was asked of it and the program has followed: another window may
+// be drawn anew when one goes. The question is on a connection of its own, which is not counted.
 void settle() {
-    for (unsigned long before = 0; before != bench::x_requests();) {
+    static Display* const asking = XOpenDisplay(nullptr);
+    unsigned long before = 0;
+    do {
+        gdk_display_sync(gdk_display_get_default());
         before = bench::x_requests();
-        bool over = false;
-        const auto end = +[](gpointer flag) -> gboolean {
-            *static_cast<bool*>(flag) = true;
-            return G_SOURCE_REMOVE;
-        };
-        g_timeout_add(quiet_ms, end, &over);
-        while (!over) g_main_context_iteration(nullptr, TRUE);
-    }
+        bench::wait_for_manager(asking);
+        XSync(asking, True);  // what else came of it is not kept
+        turn_for_two_frames();
+    } while (before != bench::x_requests());
 }
 
 struct cost {
