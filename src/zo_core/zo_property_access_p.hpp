@@ -93,8 +93,7 @@ class property_guard {
     // As read(), but a value of another type is reported as a missing one is.
     template <typename T>
     bool read_checked(const char* name, T& value, const spelling& how) {
-        const auto place = object_.property_list.find(property_key(name));
-        const T* const stored = place == object_.property_list.end() ? nullptr : value_in<T>(place->second);
+        const T* const stored = this->stored<T>(name);
         if (stored) value = *stored;
         check(stored != nullptr, "zo_property_get_extract", type_text<T>::value, name, how);
         return stored != nullptr;
@@ -112,9 +111,7 @@ class property_guard {
     // Reads into `old` and writes `value`, without a copy where both succeed. `value` is then moved from.
     template <typename T>
     void exchange(const char* name, T& value, T& old, const spelling& how_read, const spelling& how_written) {
-        const auto place = object_.property_list.find(property_key(name));
-        T* stored = place == object_.property_list.end() ? nullptr : value_in<T>(place->second);
-        if (stored) {
+        if (T* stored = this->stored<T>(name)) {
             old = std::exchange(*stored, std::move(value));
             line_ += 2;
         } else {
@@ -124,6 +121,13 @@ class property_guard {
     }
 
   private:
+    // The value of that name and type, or null.
+    template <typename T>
+    T* stored(const char* name) const {
+        const auto place = object_.property_list.find(property_key(name));
+        return place == object_.property_list.end() ? nullptr : value_in<T>(place->second);
+    }
+
     // Builds no text unless there is something to report.
     void check(bool done, const char* operation, const char* type, std::string_view name,
                const spelling& how) {
