@@ -2,23 +2,11 @@
 // The same panel, windows, notification and icon in plain calls of the toolkit.
 #include <desktop/desktop.hpp>
 #include <notifications/floor_popup.hpp>
-#include <panel/floor_tree.hpp>
-#include <windows/floor_tree.hpp>
+#include <panel/floor_desktop.hpp>
 
 #include <libayatana-appindicator/app-indicator.h>
 
 namespace {
-
-void show_panel_with_windows() {
-    gdk_monitor_get_workarea(gdk_display_get_monitor(gdk_display_get_default(), 0), &floor_window::workarea);
-    GtkWidget* row = floor_panel::row_new();
-    GtkWidget* panel = floor_panel::panel_new(row);
-    for (int i = 0; i < bench::started_windows; ++i) {
-        floor_panel::add_window(row, i);
-        floor_window::open_window(i);
-    }
-    gtk_widget_show_all(panel);
-}
 
 void show_icon() {
     AppIndicator* const icon =
@@ -36,7 +24,7 @@ void show_icon() {
 
 int main() {
     bench::begin();
-    show_panel_with_windows();
+    floor_panel::show_panel_with_windows();
     floor_popup::show("", "Something to read", floor_popup::top);
     show_icon();
     gtk_main();
