@@ -9,9 +9,10 @@ AHEAD = [Mark("gtkmm", at_most=1)]
 NOTHING_LEFT = [Mark(at_most=256)]
 
 
-def not_alone(marks):
-    """Among others, another of them may be drawn once more when the focus moves: the median of the rounds tells."""
-    return [Mark(mark.beside, mark.at_most, size=size, median_only=size != 1) for mark in marks for size in SIZES]
+def medians(marks):
+    """Where one round may differ a little: the desktop gives the focus before the first drawing or after it, and a page's rest
+    more or less is near to what a mark of the heap leaves."""
+    return [Mark(mark.beside, mark.at_most, median_only=True) for mark in marks]
 
 
 def row(name, desktop, session, about, of_counts):
@@ -19,9 +20,8 @@ def row(name, desktop, session, about, of_counts):
                [Metric("window_cpu_us", "us", NO_MORE + AHEAD),
                 Metric("window_x_requests", "", of_counts(NO_MORE), counted=True),
                 Metric("window_allocations", "", of_counts(NO_MORE), counted=True),
-                Metric("open_heap", "bytes", of_counts(NO_MORE), counted=True),
-                Metric("left_heap", "bytes", of_counts(NOTHING_LEFT), counted=True),
-                Metric("window_instructions", "", NO_MORE + AHEAD, counted=True, callgrind=True, sizes=[1, 10])],
+                Metric("open_heap", "bytes", medians(NO_MORE), counted=True),
+                Metric("left_heap", "bytes", medians(NOTHING_LEFT), counted=True)],
                about, sizes=SIZES, session=session)
 
 
@@ -34,8 +34,12 @@ properties, 47 named values in six kilobytes, and the tasks of opening and showi
 four hundredths of the heap. What assistive programs read of the title's buttons is made when one asks. What grows with
 the number of windows is the same for all: the desktop gives the focus back to one of them, which is drawn anew. What one left
 behind is measured after ten were open at once before: nothing that grows.
-""", not_alone),
+""", medians),
     row("window-unmanaged", "without a window manager", [], """
 As under openbox. Nobody gives the focus to a window here, so that none is drawn a second time.
 """, list),
+    Row("windows-instructions", "The instructions of opening and destroying a window, among so many alive, under openbox",
+        CONTENDERS, [Metric("window_instructions", "", NO_MORE + AHEAD, counted=True, callgrind=True)], """
+The same work, counted by callgrind, which takes minutes: what does not vary of the processor time.
+""", sizes=[1, 10], session=["-w", "openbox"]),
 ]
